@@ -1,0 +1,95 @@
+#include "frame/connection_registry.h"
+
+#include <algorithm>
+#include <new>
+
+#include "at/at_channel.h"
+#include "ftm/ftm_channel.h"
+#include "obex/obex_channel.h"
+#include "procedures/phone_procedures.h"
+
+namespace tandekor
+{
+
+ConnectionRecord::ConnectionRecord(ResourceContext handle, uint32_t port)
+    : hResourceContext(handle),
+      portNumber(port),
+      phoneProcedures(new (std::nothrow) PhoneProcedures(handle)),
+      atChannel(new (std::nothrow) AtChannel(handle)),
+      ftmChannel(new (std::nothrow) FtmChannel(handle)),
+      obexChannel(new (std::nothrow) ObexChannel(handle))
+{
+}
+
+// In the order in which they were made, so that the boot box port is released first.
+ConnectionRecord::~ConnectionRecord()
+{
+    delete phoneProcedures;
+    delete atChannel;
+    delete ftmChannel;
+    delete obexChannel;
+}
+
+ConnectionRegistry& ConnectionRegistry::Instance()
+{
+    static ConnectionRegistry registry;
+    return registry;
+}
+
+ConnectionRegistry::Position ConnectionRegistry::FindConnection(ResourceContext handle)
+{
+    return std::find_if(connections.begin(), connections.end(),
+                        [handle](const ConnectionRecord& record) { return record.hResourceContext == handle; });
+}
+
+bool ConnectionRegistry::AddConnection(ResourceContext handle, uint32_t port)
+{
+    const Position record = FindConnection(handle);
+    if (record != connections.end())
+    {
+        ++record->useCount;
+        return true;
+    }
+    try
+    {
+        connections.emplace_back(handle, port);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+    return true;
+}
+
+void ConnectionRegistry::RemoveConnection(ResourceContext handle)
+{
+    const Position record = FindConnection(handle);
+    if (record == connections.end())
+        return;
+    if (record->useCount <= 1)
+        connections.erase(record);
+    else
+        --record->useCount;
+}
+
+PhoneProcedures* ConnectionRegistry::GetPhoneProcedures(ResourceContext handle)
+{
+    return ServiceOf(handle, &ConnectionRecord::phoneProcedures);
+}
+
+FtmChannel* ConnectionRegistry::GetFtmChannel(ResourceContext handle)
+{
+    return ServiceOf(handle, &ConnectionRecord::ftmChannel);
+}
+
+AtChannel* ConnectionRegistry::GetAtChannel(ResourceContext handle)
+{
+    return qpstMode ? nullptr : ServiceOf(handle, &ConnectionRecord::atChannel);
+}
+
+ObexChannel* ConnectionRegistry::GetObexChannel(ResourceContext handle)
+{
+    return qpstMode ? nullptr : ServiceOf(handle, &ConnectionRecord::obexChannel);
+}
+
+}  // namespace tandekor

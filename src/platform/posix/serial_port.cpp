@@ -1,0 +1,71 @@
+#include "platform/serial_port.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace tandekor::platform
+{
+
+namespace
+{
+
+int Native(SerialHandle port) { return static_cast<int>(port); }
+
+int OpenDevice(const char* format, int number)
+{
+    char name[32];
+    std::snprintf(name, sizeof name, format, number);
+    // Without O_NONBLOCK the open would wait for a carrier that a boot box never gives.
+    return ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+}
+
+// TIOCEXCL keeps out the processes that open the device later, except those of root; the lock keeps out those too.
+bool ClaimForThisProcess(int port) { return ::flock(port, LOCK_EX | LOCK_NB) == 0 && ::ioctl(port, TIOCEXCL) == 0; }
+
+}  // namespace
+
+SerialHandle OpenSerialPort(uint16_t portNumber)
+{
+    int port = OpenDevice("/dev/com%d", portNumber);
+    if (port < 0 && portNumber > 0)
+        port = OpenDevice("/dev/ttyS%d", portNumber - 1);
+    if (port < 0)
+        return invalidSerialHandle;
+    if (!ClaimForThisProcess(port))
+    {
+        ::close(port);
+        return invalidSerialHandle;
+    }
+    return port;
+}
+
+bool ConfigureSerialPort(SerialHandle port)
+{
+    termios control{};
+    if (::tcgetattr(Native(port), &control) != 0)
+        return false;
+    ::cfmakeraw(&control);
+    // One stop bit: one and a half exist here only for five data bits, and no byte is ever sent.
+    // Without HUPCL the close leaves the lines alone, and without CRTSCTS the driver does not move RTS by itself.
+    control.c_cflag &= ~static_cast<tcflag_t>(HUPCL | CRTSCTS | CSTOPB | PARENB);
+    control.c_cflag |= CLOCAL | CREAD;
+    ::cfsetspeed(&control, B115200);
+    return ::tcsetattr(Native(port), TCSANOW, &control) == 0;
+}
+
+bool PurgeSerialPort(SerialHandle port) { return ::tcflush(Native(port), TCIOFLUSH) == 0; }
+
+bool SetSerialLine(SerialHandle port, SerialLine line, bool raised)
+{
+    const int bit = line == SerialLine::Dtr ? TIOCM_DTR : TIOCM_RTS;
+    return ::ioctl(Native(port), raised ? TIOCMBIS : TIOCMBIC, &bit) == 0;
+}
+
+bool CloseSerialPort(SerialHandle port) { return ::close(Native(port)) == 0; }
+
+}  // namespace tandekor::platform

@@ -1,0 +1,13 @@
+#include "platform/clock.h"
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+namespace tandekor::platform
+{
+
+uint32_t TickCount() { return ::GetTickCount(); }
+
+void Sleep(uint32_t milliseconds) { ::Sleep(milliseconds); }
+
+}  // namespace tandekor::platform

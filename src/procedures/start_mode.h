@@ -1,0 +1,23 @@
+// The numbers by which the phone's mode is asked for and told.
+#pragma once
+
+#include <cstdint>
+
+namespace tandekor
+{
+
+// NV item of one byte: the mode in which the phone starts, 1 for FTM and 0 for online.
+constexpr uint16_t startModeItem = 453;
+
+// Modes that QLIB_DIAG_CONTROL_F takes.
+constexpr uint32_t goOffline = 0;
+constexpr uint32_t reset = 2;  // the phone restarts in the mode of the start mode item
+constexpr uint32_t goToFtm = 3;
+constexpr uint32_t goOnline = 4;
+constexpr uint32_t powerDown = 6;
+
+// States that QLIB_DIAG_STATUS_F tells.
+constexpr uint8_t stateOffline = 0;
+constexpr uint8_t stateOnline = 1;
+
+}  // namespace tandekor
