@@ -43,6 +43,14 @@ void PacketBuffer::AddBytes(const void* bytes, size_t count)
     requestLength = static_cast<uint16_t>(requestLength + count);
 }
 
+void PacketBuffer::SetBigEndianWord(uint16_t position, uint16_t value)
+{
+    if (position + 2 > requestLength)
+        return;
+    request[position] = static_cast<uint8_t>(value >> 8);
+    request[position + 1] = static_cast<uint8_t>(value);
+}
+
 uint8_t PacketBuffer::Exchange(ExchangeOperation operation, ResourceContext hResourceContext, uint32_t timeoutMs)
 {
     if (requestCut)

@@ -1,6 +1,7 @@
 // The request and response area of a service object, and its exchange with the host library.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -31,6 +32,9 @@ public:
     void AddDword(uint32_t value);
     void AddBytes(const void* bytes, size_t count);
 
+    // Overwrites two bytes of the request, high byte first, which must have been appended.
+    void SetBigEndianWord(uint16_t position, uint16_t value);
+
     // Sends the request and takes the response's length, whatever the result is. Gives the operation's result; 0
     // without a call if an append did not fit, since a request cut short must not reach a phone.
     uint8_t Exchange(ExchangeOperation operation, ResourceContext hResourceContext, uint32_t timeoutMs);
@@ -52,6 +56,8 @@ public:
     {
         return position >= 0 && position < areaSize ? response[position] : uint8_t{0};
     }
+    // The response area from a position on, which is held to the area.
+    const uint8_t* ResponseFrom(int position) const { return response + std::clamp<int>(position, 0, areaSize); }
 
 private:
     bool Take(uint16_t count);

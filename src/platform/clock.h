@@ -12,6 +12,18 @@ uint32_t TickCount();
 // Blocks the calling thread; 0 only gives up the rest of its time slice.
 void Sleep(uint32_t milliseconds);
 
+// Coordinated Universal Time, as a calendar shows it.
+struct UtcTime
+{
+    uint16_t year;
+    uint16_t month;  // from 1
+    uint16_t day;
+    uint16_t hour;
+    uint16_t minute;
+    uint16_t second;
+};
+UtcTime CurrentUtcTime();
+
 // A time limit that starts now. It compares elapsed time, so a wrap of the counter does no harm.
 class TimeLimit
 {

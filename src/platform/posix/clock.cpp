@@ -1,6 +1,7 @@
 #include "platform/clock.h"
 
 #include <chrono>
+#include <ctime>
 #include <thread>
 
 namespace tandekor::platform
@@ -18,6 +19,16 @@ void Sleep(uint32_t milliseconds)
         std::this_thread::yield();
     else
         std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+}
+
+UtcTime CurrentUtcTime()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm calendar{};
+    ::gmtime_r(&now, &calendar);
+    return {static_cast<uint16_t>(calendar.tm_year + 1900), static_cast<uint16_t>(calendar.tm_mon + 1),
+            static_cast<uint16_t>(calendar.tm_mday),        static_cast<uint16_t>(calendar.tm_hour),
+            static_cast<uint16_t>(calendar.tm_min),         static_cast<uint16_t>(calendar.tm_sec)};
 }
 
 }  // namespace tandekor::platform

@@ -10,4 +10,11 @@ uint32_t TickCount() { return ::GetTickCount(); }
 
 void Sleep(uint32_t milliseconds) { ::Sleep(milliseconds); }
 
+UtcTime CurrentUtcTime()
+{
+    SYSTEMTIME now{};
+    ::GetSystemTime(&now);
+    return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond};
+}
+
 }  // namespace tandekor::platform

@@ -1,0 +1,20 @@
+// Files of the host, opened and closed for each access. Nothing is allocated.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace tandekor::platform
+{
+
+// False if there is no such file, or if it is a folder or a device.
+bool FileSize(const char* path, uint64_t* size);
+
+// Reads up to count bytes from a position on; gives how many there were, 0 also if the file cannot be read.
+size_t ReadFromFile(const char* path, uint64_t position, void* bytes, size_t count);
+
+// Writes the bytes behind what the file holds, or in its place; makes the file if there is none.
+bool AppendToFile(const char* path, const void* bytes, size_t count);
+bool ReplaceFile(const char* path, const void* bytes, size_t count);
+
+}  // namespace tandekor::platform
