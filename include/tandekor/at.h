@@ -207,6 +207,267 @@ extern "C"
     /* Sets the fixed rate of the port in bits per second (+IPR); a negative value is sent as its unsigned number. */
     TANDEKOR_API uint8_t TANDEKOR_AT_Set_IPR(ResourceContext hResourceContext, int32_t iValue, uint16_t* pStatus);
 
+    /* --- Several fields, by their meaning in TS 27.007 */
+
+    /*
+     * Clock of the phone (+CCLK): the three numbers of the date in the phone's order, hour, minute, second, and the
+     * time zone in quarters of an hour. Set sends exactly two digits of each number.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CCLK(ResourceContext hResourceContext, uint8_t* piDate1, uint8_t* piDate2,
+                                              uint8_t* piDate3, uint8_t* piHour, uint8_t* piMinute, uint8_t* piSecond,
+                                              int8_t* piZone, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CCLK(ResourceContext hResourceContext, uint8_t iDate1, uint8_t iDate2,
+                                              uint8_t iDate3, uint8_t iHour, uint8_t iMinute, uint8_t iSecond,
+                                              int8_t iZone, uint16_t* pStatus);
+
+    /*
+     * Event reporting (+CMER): mode, indicator events, buffering. Of the five fields of the command the keypad and
+     * display fields have no argument: they are not read, and sent as 0.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CMER(ResourceContext hResourceContext, uint8_t* piMode, uint8_t* piInd,
+                                              uint8_t* piBfr, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CMER(ResourceContext hResourceContext, uint8_t iMode, uint8_t iInd,
+                                              uint8_t iBfr, uint16_t* pStatus);
+
+    /* Accumulated call meter (+CACM) and its maximum (+CAMM), modulo 65536. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CACM(ResourceContext hResourceContext, uint16_t* piValue, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CAMM(ResourceContext hResourceContext, uint16_t* piValue, uint16_t* pStatus);
+
+    /* Display of the call meters (^SACM): mode, and both meters modulo 256. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_SACM(ResourceContext hResourceContext, uint8_t* piMode, uint8_t* piAcm,
+                                              uint8_t* piAcmMax, uint16_t* pStatus);
+
+    /* Battery (+CBC): connection status, charge in percent. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CBC(ResourceContext hResourceContext, uint8_t* piBcs, uint8_t* piBcl,
+                                             uint16_t* pStatus);
+
+    /*
+     * Network registration (+CREG): reporting, state, and the first two characters of location area and cell. pLac,
+     * pCi: out, 2 bytes each, no NUL; without these fields the first byte is '-' and the second stays.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CREG(ResourceContext hResourceContext, uint8_t* piN, uint8_t* piStat,
+                                              uint8_t* pLac, uint8_t* pCi, uint16_t* pStatus);
+
+    /*
+     * Signal quality (+CSQ): strength and bit error rate by the scales of TS 27.007 (99: not known), read from the
+     * reply's end. What the reply does not hold keeps its value.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CSQ(ResourceContext hResourceContext, uint8_t* piRssi, uint8_t* piBer,
+                                             uint16_t* pStatus);
+
+    /*
+     * The eight indicators (+CIND) as characters, read from the reply's end. What the reply does not hold keeps its
+     * value.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CIND(ResourceContext hResourceContext, uint8_t* pi1, uint8_t* pi2,
+                                              uint8_t* pi3, uint8_t* pi4, uint8_t* pi5, uint8_t* pi6, uint8_t* pi7,
+                                              uint8_t* pi8, uint16_t* pStatus);
+
+    /*
+     * Sets the eight indicators (+CIND), one digit each; 255 leaves one alone. If all are 255 nothing is sent, the
+     * result is 1 and *pStatus stays.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CIND(ResourceContext hResourceContext, uint8_t i1, uint8_t i2, uint8_t i3,
+                                              uint8_t i4, uint8_t i5, uint8_t i6, uint8_t i7, uint8_t i8,
+                                              uint16_t* pStatus);
+
+    /*
+     * Bearer service (+CBST), read from the reply's end: speed as a number, name and connection element as
+     * characters. What the reply does not hold keeps its value.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CBST(ResourceContext hResourceContext, uint32_t* piSpeed, uint8_t* piName,
+                                              uint8_t* piCe, uint16_t* pStatus);
+
+    /* The interface in use (^SIFS): 1 IrDA, 2 Bluetooth, 3 wire, 0 any other. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_SIFS(ResourceContext hResourceContext, uint8_t* piKind, uint16_t* pStatus);
+
+    /*
+     * Operator (+COPS): mode and format as characters less 0x30, and the name. sOper: out, 16 bytes, NUL included; a
+     * longer name is cut.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_COPS(ResourceContext hResourceContext, uint32_t* piMode, uint32_t* piFormat,
+                                              char* sOper, uint16_t* pStatus);
+
+    /*
+     * Selects the operator (+COPS): first digits of mode and format, and at most 16 characters of the name. iFormat
+     * -1 sends the mode alone; a name that begins with - is left out.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_COPS(ResourceContext hResourceContext, int32_t iMode, int32_t iFormat,
+                                              const char* sOper, uint16_t* pStatus);
+
+    /*
+     * Packet contexts (+CGACT): identifier and state of each. Nothing is written unless *pStatus is 0. *piCount:
+     * out, how many there are. The arrays need an entry for each context in the reply, which has at most 4096 bytes;
+     * 1366 entries hold any reply.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CGACT(ResourceContext hResourceContext, uint32_t* aiCid, uint32_t* aiState,
+                                               uint32_t* piCount, uint16_t* pStatus);
+
+    /* --- Identification texts, without a NUL: clear the buffer before the call */
+
+    /*
+     * Reason of the last call's end (+CEER); manufacturer, model and revision of the phone (+CGMI, +CGMM, +CGMR).
+     * sText: out, 4096 bytes hold any reply. The text ends with the line ends in front of the reply's OK; at least
+     * one byte is written.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CEER(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CGMI(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CGMM(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CGMR(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+
+    /* Serial number of the phone (+CGSN, +GSN) and subscriber identity (+CIMI). sText: out, 15 bytes. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CGSN(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_GSN(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CIMI(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+
+    /* Number of the SIM card (^SCID). sText: out, 20 bytes. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_SCID(ResourceContext hResourceContext, char* sText, uint16_t* pStatus);
+
+    /* --- Text parameters. Left out is a text that begins with -, a uint8_t of 255, a uint16_t of 65535, an int32_t of
+     * -1. A text out that begins with - (without a NUL) and a number out of 0xFFFFFFFF stand for a field that the reply
+     * does not hold. A command that outgrows 4096 bytes is not sent: result 0 */
+
+    /*
+     * Presses keys (+CKPD), all of sKeys; iTime and iPause in tenths of a second, each may be left out, iPause with
+     * iTime.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CKPD(ResourceContext hResourceContext, const char* sKeys, uint16_t iTime,
+                                              uint16_t iPause, uint16_t* pStatus);
+
+    /*
+     * Facility locks (+CLCK, and ^SLCK of the phone maker), up to 40 seconds: two characters of the facility, mode
+     * as one digit, and unless the mode is 2 the password, four bytes of the values 0 to 9 (left out if the first is
+     * 45, the hyphen), and with it the class, 0 to 999.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CLCK(ResourceContext hResourceContext, const char* sFac, uint8_t iMode,
+                                              const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_SLCK(ResourceContext hResourceContext, const char* sFac, uint8_t iMode,
+                                              const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus);
+
+    /*
+     * State of a facility lock, up to 5 seconds: for each line of the reply state and class as characters,
+     * 0xFFFFFFFF for no class. *piCount: out, how many there are. The arrays need an entry for each line; 1366
+     * entries hold any reply.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CLCK(ResourceContext hResourceContext, const char* sFac, uint8_t* aState,
+                                              uint32_t* aiClass, uint32_t* piCount, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_SLCK(ResourceContext hResourceContext, const char* sFac, uint8_t* aState,
+                                              uint32_t* aiClass, uint32_t* piCount, uint16_t* pStatus);
+
+    /* Which code the phone waits for (+CPIN). sCode: out, 16 bytes, NUL included. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CPIN(ResourceContext hResourceContext, char* sCode, uint16_t* pStatus);
+
+    /* Gives a code (+CPIN), a text of digits, and a new one of four characters unless it is left out. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CPIN(ResourceContext hResourceContext, const char* sPin, const char* sNewPin,
+                                              uint16_t* pStatus);
+
+    /*
+     * Call forwarding (+CCFC), up to 25 seconds: reason and mode as one digit each, and unless the mode is 2 or the
+     * number is left out at most 12 characters of the number, type of address (a whole number), class and time (one
+     * digit), of which each may be left out.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CCFC(ResourceContext hResourceContext, uint8_t iReason, uint8_t iMode,
+                                              const char* sNumber, uint8_t iType, int32_t iClass, int32_t iTime,
+                                              uint16_t* pStatus);
+
+    /*
+     * State of call forwarding, up to 10 seconds. Nothing is written unless *pStatus is 0. *piCount: out, how many
+     * entries there are. asNumber: rows of 12 bytes without a NUL, at most the first 12 characters of a number; a
+     * number in double quotes counts as missing. A line that ends in front of its last field is the last entry. The
+     * arrays need an entry for each line; 600 entries hold any reply.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CCFC(ResourceContext hResourceContext, uint8_t iReason, uint32_t* aiState,
+                                              uint32_t* aiClass, char (*asNumber)[12], uint32_t* aiType,
+                                              uint32_t* aiTime, uint32_t* piCount, uint16_t* pStatus);
+
+    /*
+     * Call waiting (+CCWA), up to 20 seconds: one digit each of n and mode, and the class; each may be left out with
+     * those behind it. Only for mode 2 and *pStatus 0 are state, class and *piCount written, as with
+     * TANDEKOR_AT_Get_CGACT.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CCWA(ResourceContext hResourceContext, uint8_t iN, uint8_t iMode,
+                                              int32_t iClass, uint32_t* aiState, uint32_t* aiClasses, uint32_t* piCount,
+                                              uint16_t* pStatus);
+
+    /*
+     * Service centre (+CSCA). sSca, sTosca: out, 50 bytes each. A longer address is cut to 49 characters and a NUL;
+     * a type that fills its buffer has no NUL.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CSCA(ResourceContext hResourceContext, char* sSca, char* sTosca,
+                                              uint16_t* pStatus);
+
+    /*
+     * Sets the service centre (+CSCA), and at most 50 characters of its type unless it is left out. sSca is never
+     * left out.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CSCA(ResourceContext hResourceContext, const char* sSca, const char* sTosca,
+                                              uint16_t* pStatus);
+
+    /*
+     * Cell broadcast (+CSCB): mode as a character, message identifiers, data coding schemes. sMids, sDcss: out, 4097
+     * bytes each hold any reply, NUL included.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CSCB(ResourceContext hResourceContext, uint8_t* piMode, char* sMids,
+                                              char* sDcss, uint16_t* pStatus);
+
+    /*
+     * Sets cell broadcast (+CSCB): mode as one digit, message identifiers, and bytes of the values 1 to 9 up to a
+     * NUL as data coding schemes; each may be left out with those behind it.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CSCB(ResourceContext hResourceContext, uint8_t iMode, const char* sMids,
+                                              const char* sDcss, uint16_t* pStatus);
+
+    /* Character set (+CSCS). sCharset: out, 16 bytes, NUL included. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Get_CSCS(ResourceContext hResourceContext, char* sCharset, uint16_t* pStatus);
+
+    /* Selects the character set (+CSCS), at most 16 characters. Left out, the command is sent alone. */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CSCS(ResourceContext hResourceContext, const char* sCharset,
+                                              uint16_t* pStatus);
+
+    /*
+     * Restricted SIM access (+CRSM): command as three digits, file identifier as a whole number, one digit each of
+     * the three parameters, and behind a comma bytes of the values 1 to 9 up to a NUL; each may be left out with
+     * those behind it, the three parameters together. Out: the two status words of the card, and the card's answer
+     * with the closing quote, without a NUL; sResponse: 4096 bytes hold any reply.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_CRSM(ResourceContext hResourceContext, uint8_t iCommand, int32_t iFileId,
+                                          int32_t iP1, int32_t iP2, int32_t iP3, const uint8_t* pData, uint32_t* piSw1,
+                                          uint32_t* piSw2, char* sResponse, uint16_t* pStatus);
+
+    /* --- Messages in the phone's store, in PDU form */
+
+    /*
+     * Lists messages (+CMGL, and ^SMGL of the phone maker) of one state, the first digit of iFilter; 255 stands for
+     * 0. For each message: place, state, alpha (0xFFFFFFFF if empty), length, and the line with its data, in rows of
+     * 1024 bytes without a NUL, of which an empty line writes none. *piCount: out, how many there are, 0 after a
+     * failed exchange. The arrays need an entry for each message in the reply; 512 entries hold any reply.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_CMGL(ResourceContext hResourceContext, uint8_t iFilter, uint32_t* aiIndex,
+                                          uint32_t* aiStat, uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024],
+                                          uint32_t* piCount, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_SMGL(ResourceContext hResourceContext, uint8_t iFilter, uint32_t* aiIndex,
+                                          uint32_t* aiStat, uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024],
+                                          uint32_t* piCount, uint16_t* pStatus);
+
+    /*
+     * Reads a message (+CMGR, and ^SMGR of the phone maker) at the place iIndex; above 100 no place is sent. The
+     * reply is read even if the exchange failed, if it ends in K. Out: the state as a character, the length that the
+     * reply states, and the text, cut so that it fits iMaxLength bytes or that length with its NUL. sData: out, at
+     * least iMaxLength bytes, and never less than 1. An unreadable reply gives the state '5', length 0 and an empty
+     * text.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_CMGR(ResourceContext hResourceContext, uint16_t iIndex, uint16_t iMaxLength,
+                                              uint16_t* piLength, uint8_t* piStat, char* sData, uint16_t* pStatus);
+    TANDEKOR_API uint8_t TANDEKOR_AT_Set_SMGR(ResourceContext hResourceContext, uint16_t iIndex, uint16_t iMaxLength,
+                                              uint16_t* piLength, uint8_t* piStat, char* sData, uint16_t* pStatus);
+
+    /*
+     * Sends a message from the store (+CMSS): one digit of its place, and at most 12 characters of the address
+     * unless it is left out.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_AT_CMSS(ResourceContext hResourceContext, uint8_t iIndex, const char* sAddress,
+                                          uint16_t* pStatus);
+
 #ifdef __cplusplus
 }
 #endif

@@ -13,10 +13,6 @@ namespace tandekor
 namespace
 {
 
-constexpr uint16_t statusOk = 0;
-constexpr uint16_t statusError = 1;
-constexpr uint16_t statusOther = 2;
-
 bool EndsIn(const PacketBuffer& reply, const char* word)
 {
     const int length = static_cast<int>(std::strlen(word));
@@ -33,10 +29,17 @@ bool EndsIn(const PacketBuffer& reply, const char* word)
 
 }  // namespace
 
-void AtChannel::StartCommand()
+void AtChannel::StartNamed(const char* name, const char* command)
+{
+    Trace(hResourceContext, "%s()", name);
+    StartCommand(command);
+}
+
+void AtChannel::StartCommand(const char* command)
 {
     packetBuffer.Reset();
     AddText("AT");
+    AddText(command);
 }
 
 void AtChannel::AddText(const char* text) { packetBuffer.AddBytes(text, std::strlen(text)); }
@@ -48,6 +51,38 @@ void AtChannel::AddDecimal(uint32_t value, int mostCharacters)
     char digits[10];
     const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     packetBuffer.AddBytes(digits, static_cast<size_t>(std::min<ptrdiff_t>(end - digits, mostCharacters)));
+}
+
+void AtChannel::AddCommaAndFirstDigit(uint32_t value)
+{
+    AddCharacter(',');
+    AddFirstDigit(value);
+}
+
+void AtChannel::AddCommaAndDecimal(uint32_t value)
+{
+    AddCharacter(',');
+    AddDecimal(value);
+}
+
+void AtChannel::AddTwoDigits(uint32_t value)
+{
+    if (value < 10)
+        AddCharacter('0');
+    AddDecimal(value, 2);
+}
+
+void AtChannel::AddText(const char* text, size_t mostCharacters)
+{
+    for (size_t i = 0; i < mostCharacters && text[i] != '\0'; ++i)
+        AddCharacter(text[i]);
+}
+
+void AtChannel::AddQuoted(const char* text, size_t mostCharacters)
+{
+    AddCharacter('"');
+    AddText(text, mostCharacters);
+    AddCharacter('"');
 }
 
 bool AtChannel::SendCommand(uint16_t* pStatus, uint32_t timeoutMs)
@@ -68,6 +103,19 @@ uint8_t AtChannel::DigitAt(int position) const
     return IsDigit(character) ? static_cast<uint8_t>(character - '0') : uint8_t{0};
 }
 
+uint32_t AtChannel::NumberAt(int position, int digits) const
+{
+    uint32_t value = 0;
+    for (int i = 0; i < digits; ++i)
+        value = value * 10 + DigitAt(position + i);
+    return value;
+}
+
+void AtChannel::CopyTextAt(int position, char stop, char* text, size_t textSize) const
+{
+    text[CursorAt(position).CopyUpTo(stop, text, textSize - 1)] = '\0';
+}
+
 int AtChannel::IndexOfLastDigit() const
 {
     int index = IndexOf(packetBuffer.ResponseLength()) - 1;
@@ -78,9 +126,7 @@ int AtChannel::IndexOfLastDigit() const
 
 bool AtChannel::Query(const char* name, const char* command, uint16_t* pStatus)
 {
-    Trace(hResourceContext, "%s()", name);
-    StartCommand();
-    AddText(command);
+    StartNamed(name, command);
     return SendCommand(pStatus);
 }
 
@@ -115,8 +161,7 @@ uint8_t AtChannel::QueryLastDigit(const char* name, const char* command, uint32_
 uint8_t AtChannel::SetFirstDigit(const char* name, const char* command, uint8_t iValue, uint16_t* pStatus)
 {
     Trace(hResourceContext, "%s(%d)", name, iValue);
-    StartCommand();
-    AddText(command);
+    StartCommand(command);
     AddFirstDigit(iValue);
     return SendCommand(pStatus);
 }
@@ -124,9 +169,7 @@ uint8_t AtChannel::SetFirstDigit(const char* name, const char* command, uint8_t 
 uint8_t AtChannel::SetFirstDigitUnshown(const char* name, const char* command, uint32_t iValue, uint16_t* pStatus,
                                         uint32_t timeoutMs)
 {
-    Trace(hResourceContext, "%s()", name);
-    StartCommand();
-    AddText(command);
+    StartNamed(name, command);
     AddFirstDigit(iValue);
     return SendCommand(pStatus, timeoutMs);
 }
@@ -135,14 +178,10 @@ uint8_t AtChannel::SetOneOrTwo(const char* name, const char* command, uint8_t iF
                                uint8_t iSecond, uint16_t* pStatus)
 {
     Trace(hResourceContext, "%s(%d, %d)", name, iFirst, iSecond);
-    StartCommand();
-    AddText(command);
+    StartCommand(command);
     AddDecimal(iFirst, firstCharacters);
     if (iSecond != 255)
-    {
-        AddCharacter(',');
-        AddFirstDigit(iSecond);
-    }
+        AddCommaAndFirstDigit(iSecond);
     return SendCommand(pStatus);
 }
 

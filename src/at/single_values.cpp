@@ -314,8 +314,7 @@ uint8_t AtChannel::Get_CVIB(uint8_t* piValue, uint16_t* pStatus)
 uint8_t AtChannel::Set_CVIB(uint8_t iValue, uint16_t* pStatus)
 {
     Trace(hResourceContext, "TANDEKOR_AT_Set_CVIB(%d)", iValue);
-    StartCommand();
-    AddText("+CVIB=");
+    StartCommand("+CVIB=");
     if (iValue < 3)
         AddFirstDigit(static_cast<uint8_t>(iValue - 1));
     else
@@ -326,8 +325,7 @@ uint8_t AtChannel::Set_CVIB(uint8_t iValue, uint16_t* pStatus)
 uint8_t AtChannel::Set_SKPD(uint8_t iValue, uint16_t* pStatus)
 {
     Trace(hResourceContext, "TANDEKOR_AT_Set_SKPD(%d)", iValue);
-    StartCommand();
-    AddText("^SKPD=");
+    StartCommand("^SKPD=");
     AddDecimal(iValue);
     return SendCommand(pStatus);
 }
@@ -356,9 +354,7 @@ uint8_t AtChannel::Set_WS46(uint8_t iValue, uint16_t* pStatus)
 {
     if (iValue == 255)
         return Query("TANDEKOR_AT_Set_WS46", "+WS46", pStatus);
-    Trace(hResourceContext, "TANDEKOR_AT_Set_WS46()");
-    StartCommand();
-    AddText("+WS46=");
+    StartNamed("TANDEKOR_AT_Set_WS46", "+WS46=");
     AddFirstDigit(iValue / 10u);
     AddFirstDigit(iValue % 10u);
     return SendCommand(pStatus);
@@ -382,9 +378,7 @@ uint8_t AtChannel::Get_IPR(uint32_t* piValue, uint16_t* pStatus)
 
 uint8_t AtChannel::Set_IPR(int32_t iValue, uint16_t* pStatus)
 {
-    Trace(hResourceContext, "TANDEKOR_AT_Set_IPR()");
-    StartCommand();
-    AddText("+IPR=");
+    StartNamed("TANDEKOR_AT_Set_IPR", "+IPR=");
     AddDecimal(static_cast<uint32_t>(iValue));
     return SendCommand(pStatus);
 }

@@ -1,0 +1,153 @@
+// The simulator's own face, for tests and for applications that run without a phone: set the phone up, script what it
+// or the host library does wrong, and read what was asked of them. One process has one simulator with one phone.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tandekor/common.h"
+
+namespace simulator
+{
+
+using Bytes = std::vector<uint8_t>;
+
+// Puts everything back to the state in which a process finds it: a fresh phone, no connection, nothing scripted,
+// nothing recorded, the clock at its start, the boot box closed.
+void Reset();
+
+// --- the phone
+
+enum class Mode : uint8_t
+{
+    Offline,
+    Online,
+    Ftm
+};
+
+// What a fresh phone answers to AT queries.
+std::map<std::string, std::string> FreshAtSettings();
+
+// Made fresh it is a phone of model 52, on and online.
+struct Phone
+{
+    bool on = true;  // has power; while it starts it does not answer yet
+    Mode mode = Mode::Online;
+    bool atEcho = true;
+    bool obexMode = false;             // the port talks OBEX, and AT commands are not answered
+    bool switchesModeDirectly = true;  // false: mode commands 3 and 4 are accepted without effect
+    bool goesOffline = true;           // false: mode command 0 is accepted without effect
+    uint32_t startTimeMs = 4000;       // from power or reset to the first answer
+    uint32_t runOnTimeMs = 500;        // how long it lives on after its supply was dropped
+    // Content by item number. 453: the mode in which the phone starts, 1 FTM; 447: Bluetooth address; 550: IMEI.
+    std::map<uint16_t, Bytes> nvItems = {
+        {447, {0x01, 0x02, 0x03, 0xA0, 0xB0, 0xC0}},
+        {453, {0}},
+        {550, {0x08, 0x4A, 0x09, 0x51, 0x24, 0x30, 0x32, 0x57, 0x81}},
+    };
+    std::map<uint16_t, uint16_t> nvStatus;  // status by item number, where it is not 0: the item is refused with it
+    std::map<uint32_t, uint8_t> memory;     // bytes by address; what is not there reads as 0
+    std::string buildId = "T52-02.04.15", buildModel = "T52";
+    uint32_t msmHardwareVersion = 0x405;
+    uint32_t buildMobModel = 52;
+    std::string compileDate = "Mar 14 2007", compileTime = "09:26:53";
+    std::string releaseDate = "Mar 15 2007", releaseTime = "10:00:00", versionDir = "T52_0204";
+    uint32_t hardwareVersion = 0x405000;  // factory request 10; bits 12 to 27 hold the chip's version
+    uint16_t hardwareId = 0;              // factory request 29
+    uint16_t nandFlashId = 0xECA1;
+    uint8_t fuelGaugeVersion = 3;
+    // Value text by command name, as in {"+CMUT", "0"}. A command whose name is not here is answered with ERROR.
+    std::map<std::string, std::string> atSettings = FreshAtSettings();
+};
+
+// The phone as it stands at this moment, to look at and to change. The reference stays good, but what time does to the
+// phone (start, end of supply) shows only with the next call.
+Phone& ThePhone();
+
+// The supply of the phone, as the boot box switches it; at first it is off, and the phone lives without it. Switching
+// on starts the phone if it is off; a supply that is on already starts nothing.
+void SwitchSupply(bool on);
+
+// --- what the host library answers
+
+// "QLIB V5.0.40,QPHONEMS" at start. Given out as it stands, cut to the 39 characters that callers have room for; what
+// is behind its comma is replaced when the library mode is set.
+void SetLibraryVersion(const std::string& version);
+void SetConnectHandle(ResourceContext handle);  // what the next connects give; 0 refuses them
+
+// A reply that QLIB_SendRAW or QLIB_SendSync gives instead of the phone's own, also when the phone is off, and with its
+// bytes also when the result is 0. Bytes beyond the capacity that the caller offers are not delivered. claimedLength,
+// where set, is reported as the length whatever was delivered.
+struct Reply
+{
+    Bytes bytes;
+    uint8_t result = 1;
+    std::optional<uint16_t> claimedLength;
+};
+void QueueReply(const Reply& reply);   // each reply serves one exchange, first in, first out
+void RepeatReply(const Reply& reply);  // serves every exchange for which no reply is queued, until Reset
+
+// Refusal: the call is recorded, has no effect and gives 0. Calls count from 1, from now on. Calls of the text log
+// operations are neither recorded nor refused.
+void RefuseCall(const std::string& operation, int n = 1);       // the n-th call of this operation
+void RefuseCallsFrom(const std::string& operation, int n = 1);  // the n-th and all later ones
+void RefuseAnyCall(int n);                                      // the n-th recorded call of those that have a result
+
+// Runs in front of the n-th call from now of an operation, for a phone that changes in the middle of a procedure.
+void BeforeCall(const std::string& operation, int n, std::function<void()> action);
+
+// --- what was asked
+
+// Every call of a host operation but those of the text log, in order, as "QLIB_DIAG_CONTROL_F(2)": the arguments
+// behind the handle, numbers in decimal, texts in double quotes, bytes in hexadecimal, what an opaque pointer points to
+// as 1 or, for null, 0; out-arguments and capacities left out.
+const std::vector<std::string>& Calls();
+int CountCalls(const std::string& operation);
+void ForgetCalls();  // and the exchanges
+
+struct Exchange
+{
+    std::string operation;  // "QLIB_SendRAW" or "QLIB_SendSync"
+    ResourceContext handle = 0;
+    Bytes request;
+    uint16_t capacity = 0;
+    uint32_t timeoutMs = 0;
+};
+const std::vector<Exchange>& Exchanges();
+
+// The texts that were given to the text log, as they were given, muted or not; and the flags set last.
+const std::vector<std::string>& LogTexts();
+void ForgetLog();
+std::optional<uint32_t> LogFlags();
+
+// --- played clock and boot box, in programs that are linked with them
+
+struct Clock
+{
+    uint32_t now = 0;                       // milliseconds
+    int64_t utcStart = 1709967902;          // the calendar at 0 ms, in seconds since 1970: 2024-03-09 07:05:02 UTC
+    std::vector<uint32_t> sleeps;           // every wait, in order
+    std::function<void(uint32_t)> onSleep;  // called with the length of each wait before the time goes on
+};
+Clock& TheClock();
+
+// The boot box: which ports exist, what they were told, and how the lines stand. One port is open at a time; opening it
+// raises both lines, as drivers do. DTR switches the phone's supply.
+struct BootBox
+{
+    std::vector<uint16_t> ports = {4};
+    bool refuseLineChanges = false;
+    bool refuseClose = false;
+    bool open = false;
+    bool dtr = false;
+    bool rts = false;
+    std::vector<std::string> events;  // what an open port was told, refused or not: "open 4", "configure", "purge",
+                                      // "DTR 0", "RTS 1", "close"
+};
+BootBox& TheBootBox();
+
+}  // namespace simulator

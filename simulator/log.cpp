@@ -1,0 +1,65 @@
+// The text log. Its operations need no connection, are not recorded as calls and cannot be refused by a script.
+#include <cstdio>
+
+#include "platform/qmsl.h"
+#include "simulator/operation.h"
+#include "simulator/state.h"
+
+namespace simulator
+{
+
+namespace
+{
+
+// Flushed each time, so that a person sees how far a run has come.
+void WriteLine(const std::string& text)
+{
+    std::ofstream& file = TheState().log.file;
+    if (!file.is_open())
+        return;
+    file << text;
+    if (!text.ends_with('\n'))
+        file << '\n';
+    file.flush();
+}
+
+}  // namespace
+
+void ReportNotSimulated(const std::string& what)
+{
+    const std::string line = "SIMULATOR: " + what + " is not simulated";
+    WriteLine(line);
+    std::fprintf(stderr, "%s\n", line.c_str());
+}
+
+}  // namespace simulator
+
+using namespace simulator;
+
+uint8_t QLIB_StartLogging(ResourceContext, const char* sLogFile)
+{
+    std::ofstream& file = TheState().log.file;
+    file.close();
+    file.clear();
+    if (sLogFile == nullptr)
+        return 0;
+    file.open(sLogFile, std::ios::trunc);
+    return file.is_open();
+}
+
+uint8_t QLIB_SetLogFlags(ResourceContext, uint32_t iFlags)
+{
+    TheState().log.flags = iFlags;
+    return 1;
+}
+
+uint8_t QLIB_AddUserMessageToTextLog(ResourceContext, uint32_t, const char* sText, uint32_t)
+{
+    if (sText == nullptr)
+        return 0;
+    LogState& log = TheState().log;
+    log.texts.emplace_back(sText);
+    if (log.flags != 0)
+        WriteLine(sText);
+    return 1;
+}

@@ -1,0 +1,66 @@
+#include "simulator/phone.h"
+
+#include "simulator/state.h"
+
+namespace simulator
+{
+
+namespace
+{
+
+constexpr uint16_t startModeItem = 453;
+
+// Catches up with the time that has gone by.
+PhoneState& Settled()
+{
+    PhoneState& state = TheState().phone;
+    if (state.runningOn && !state.runningOn->Running())
+        PowerDown();
+    if (state.starting && !state.starting->Running())
+        state.starting.reset();
+    return state;
+}
+
+}  // namespace
+
+Phone& ThePhone() { return Settled().phone; }
+
+bool PhoneAnswers()
+{
+    const PhoneState& state = Settled();
+    return state.phone.on && !state.starting;
+}
+
+void StartPhone()
+{
+    PhoneState& state = TheState().phone;
+    const auto startMode = state.phone.nvItems.find(startModeItem);
+    const bool ftm = startMode != state.phone.nvItems.end() && startMode->second == Bytes{1};
+    state.phone.on = true;
+    state.phone.mode = ftm ? Mode::Ftm : Mode::Online;
+    state.phone.obexMode = false;
+    state.starting.emplace(state.phone.startTimeMs);
+}
+
+void PowerDown()
+{
+    PhoneState& state = TheState().phone;
+    state.phone.on = false;
+    state.starting.reset();
+    state.runningOn.reset();
+}
+
+void SwitchSupply(bool on)
+{
+    PhoneState& state = Settled();
+    if (on == state.supplied)
+        return;
+    state.supplied = on;
+    state.runningOn.reset();
+    if (!on && state.phone.on)
+        state.runningOn.emplace(state.phone.runOnTimeMs);
+    else if (on && !state.phone.on)
+        StartPhone();
+}
+
+}  // namespace simulator

@@ -1,0 +1,81 @@
+// Everything that Reset puts back, apart from the played clock and boot box, in one place.
+#pragma once
+
+#include <deque>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/clock.h"
+#include "simulator/control.h"
+
+namespace simulator
+{
+
+struct PhoneState
+{
+    Phone phone;
+    bool supplied = false;
+    std::optional<tandekor::platform::TimeLimit> starting;   // runs until the phone answers
+    std::optional<tandekor::platform::TimeLimit> runningOn;  // runs until the phone is off, with its supply dropped
+    uint8_t irdaByte = 0;                                    // what the infrared test sent last
+};
+
+struct LibraryState
+{
+    std::string version = "QLIB V5.0.40,QPHONEMS";
+    std::optional<ResourceContext> connectHandle;
+    std::map<std::pair<bool, uint32_t>, ResourceContext> handles;  // by kind (logical or not) and number of the port
+    std::map<ResourceContext, uint32_t> connections;               // how many connects of a handle are open
+    bool batchMode = false;
+    std::vector<std::pair<uint16_t, Bytes>> batch;  // NV writes that wait for the flush
+};
+
+struct Refusal
+{
+    std::string operation;  // empty: all that have a result
+    int first;
+    int last;
+};
+
+struct Intervention
+{
+    std::string operation;
+    int call;
+    std::function<void()> action;
+};
+
+struct CallState
+{
+    std::vector<std::string> calls;
+    std::map<std::string, int> counts;  // by operation, and under "" all calls that have a result
+    std::vector<Refusal> refusals;
+    std::vector<Intervention> interventions;
+    std::vector<Exchange> exchanges;
+    std::deque<Reply> queuedReplies;
+    std::optional<Reply> repeatedReply;
+};
+
+struct LogState
+{
+    std::ofstream file;
+    std::vector<std::string> texts;
+    std::optional<uint32_t> flags;
+};
+
+struct State
+{
+    PhoneState phone;
+    LibraryState library;
+    CallState calls;
+    LogState log;
+};
+
+// Lives to the end of the process.
+State& TheState();
+
+}  // namespace simulator
