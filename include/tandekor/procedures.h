@@ -98,6 +98,33 @@ extern "C"
                                                void* pVernoField12, uint32_t* iMSMHardwareVersion,
                                                uint32_t* iBuildMobModel, char* sBuildId, char* sBuildModel);
 
+    /* --- Pins and cameras that depend on the phone model. Each asks for the model first. */
+
+    /*
+     * Switches the light of a keypad row by its pins: on the models 52 to 55 the rows 1 to 6, and 7 for all; on model 3
+     * row 7 for the inside keypad and 5 for the outside one, whose drive level is 15 times bOnOff, cut to a byte. A
+     * refusal on model 3 goes to standard output.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, uint16_t iRowNumber,
+                                                             uint8_t bOnOff);
+
+    /*
+     * The level of the flip's pin on model 3. *pcFlipState: out, the character '0' or '1'. bSkipModelRead: 0; any other
+     * value leaves the model unknown, and the call fails as on another model, which is said on standard output.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState,
+                                               uint8_t bSkipModelRead);
+
+    /* Chooses camera 0 or 1 on the models 52 to 55; on 54 the two are exchanged. */
+    TANDEKOR_API uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_t iCameraNum);
+
+    /*
+     * Starts camera 0 or 1, reads its identification over I2C and stops it. *piCamId: out, the identification in the
+     * low 8 bits; written only if it was read.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum,
+                                                      uint16_t* piCamId);
+
 #ifdef __cplusplus
 }
 #endif

@@ -62,6 +62,26 @@ uint8_t TANDEKOR_CheckSWBuild(ResourceContext hResourceContext, char* sCompileDa
                    sBuildModel);
 }
 
+uint8_t TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, uint16_t iRowNumber, uint8_t bOnOff)
+{
+    return Forward(Procedures(hResourceContext), &PhoneProcedures::FTM_SetKeyPadBackLightGPIO, iRowNumber, bOnOff);
+}
+
+uint8_t TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState, uint8_t bSkipModelRead)
+{
+    return Forward(Procedures(hResourceContext), &PhoneProcedures::FTM_TestFlip, pcFlipState, bSkipModelRead);
+}
+
+uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_t iCameraNum)
+{
+    return Forward(Procedures(hResourceContext), &PhoneProcedures::FTM_KOLT_CAMERA_SWITCH, iCameraNum);
+}
+
+uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum, uint16_t* piCamId)
+{
+    return Forward(Procedures(hResourceContext), &PhoneProcedures::FTM_I2C_GetCameraId, iCamNum, piCamId);
+}
+
 // Not of the common form: the callback belongs to the process, whatever the handle is.
 void TANDEKOR_SetCallback(ResourceContext /*hResourceContext*/, TandekorCallback pCallback)
 {

@@ -41,9 +41,23 @@ uint8_t FtmChannel::ExchangeWithTimeout(uint32_t timeoutMs, uint8_t* errorByte)
     return result;
 }
 
-uint8_t FtmChannel::NoReply(const FormattedText& entry, uint8_t errorByte)
+uint16_t FtmChannel::PopStatus(const Difference& difference)
 {
-    Trace(hResourceContext, "\t%s - SendSync() fail (error code = %i)", entry.Text(), errorByte);
+    if (difference.statusIsByte)
+    {
+        uint8_t status = 0;
+        packetBuffer.PopByte(&status);
+        return status;
+    }
+    uint16_t status = 0;
+    if (packetBuffer.PopWord(&status) && difference.statusWord != nullptr)
+        *difference.statusWord = status;
+    return status;
+}
+
+uint8_t FtmChannel::NoReply(const FormattedText& entry, uint16_t code)
+{
+    Trace(hResourceContext, "\t%s - SendSync() fail (error code = %i)", entry.Text(), code);
     return 0;
 }
 

@@ -95,7 +95,7 @@ uint8_t FtmChannel::GET_BT_PARAM(uint16_t* piBtStatus, uint8_t* piBtParam1, uint
             packetBuffer.PopByte(piBtParam2);
             packetBuffer.PopByte(piBtParam1);
         },
-        piBtStatus);
+        {.statusWord = piBtStatus});
 }
 
 }  // namespace tandekor

@@ -80,7 +80,7 @@ uint8_t FtmChannel::IRDA_HIGH_CURRENT_TEST(uint16_t* piErrorCode, uint16_t iIrda
     packetBuffer.AddWord(iIrdaLength_ms);
 
     uint8_t errorByte = 0;
-    const uint8_t result = ExchangeWithTimeout(iIrdaLength_ms + replyTimeMs, &errorByte);
+    const uint8_t result = ExchangeWithTimeout(iIrdaLength_ms + ftmReplyTimeMs, &errorByte);
     *piErrorCode = errorByte;
     const FormattedText closing("TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST()");
     return result == 0 ? NoReply(closing, errorByte) : Completed(closing);

@@ -16,6 +16,8 @@ constexpr uint8_t STEP_FAILURE = 0;
 constexpr uint8_t STEP_SUCCESS = 1;
 constexpr uint8_t STEP_START = 2;
 
+struct PinRegisters;
+
 class PhoneProcedures : public BootBoxPort
 {
 public:
@@ -46,6 +48,12 @@ public:
                          char* sVersionDir, void* pVernoField6, void* pVernoField7, void* pVernoField8,
                          void* pVernoField9, void* pVernoField10, void* pVernoField11, void* pVernoField12,
                          uint32_t* iMSMHardwareVersion, uint32_t* iBuildMobModel, char* sBuildId, char* sBuildModel);
+
+    // Pins and cameras that depend on the phone model.
+    uint8_t FTM_SetKeyPadBackLightGPIO(uint16_t iRowNumber, uint8_t bOnOff);
+    uint8_t FTM_TestFlip(char* pcFlipState, uint8_t bSkipModelRead);
+    uint8_t FTM_KOLT_CAMERA_SWITCH(uint8_t iCameraNum);
+    uint8_t FTM_I2C_GetCameraId(uint8_t iCamNum, uint16_t* piCamId);
 
     // Boot box.
     uint8_t BootBox_SwitchMobileOn(uint16_t iBootBoxPort, uint8_t bFTMMode);
@@ -83,6 +91,8 @@ private:
     // Asks until the phone is offline.
     bool WaitForOffline(bool (PhoneProcedures::*askState)(uint8_t*), const char* reachedText, const char* missedText);
     bool ReadIsFtmMode(uint8_t* pbIsFTMMode);
+    bool AskPhoneModel(uint32_t* piPhoneModel);
+    bool WritePin(const PinRegisters& registers, uint32_t mask, uint8_t state, const char* arguments);
 
     // --- parts of single procedures
 
@@ -93,6 +103,7 @@ private:
     bool ConfirmMode(uint8_t bFTMMode);
     bool WaitForSilence();
     bool ReadHardwareVersion(uint32_t* value);
+    bool ReadFlipBit(uint32_t address, char* pcFlipState);
     template <typename Value, typename Access>
     bool SetBits(const Access& access, uint32_t iAddress, Value iMask, uint8_t bOnOff);
 

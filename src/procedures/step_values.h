@@ -2,11 +2,11 @@
 // that an out-value is shown as the call left it.
 #pragma once
 
-#include <algorithm>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+
+#include "frame/item_text.h"
 
 namespace tandekor
 {
@@ -26,31 +26,13 @@ inline uint32_t Shown(const AddressOf& value)
     return static_cast<uint32_t>(reinterpret_cast<uintptr_t>(value.address));
 }
 
-// A field of %s for bytes that need not end in a NUL: shown up to their first NUL, at most all of them. A null pointer
-// is shown as "(null)".
-template <size_t mostBytes>
-class ItemText
+// A field of %d for a 32-bit out-value of which the low 16 bits count.
+struct LowWordOf
 {
-public:
-    explicit ItemText(const void* item, size_t itemLength = mostBytes)
-        : bytes(item), length(std::min(itemLength, mostBytes))
-    {
-    }
-
-    const char* Text() const
-    {
-        if (bytes == nullptr)
-            return "(null)";
-        std::memcpy(text, bytes, length);
-        text[length] = '\0';
-        return text;
-    }
-
-private:
-    const void* bytes;
-    size_t length;
-    mutable char text[mostBytes + 1];
+    const uint32_t* value;
 };
+
+inline uint16_t Shown(const LowWordOf& value) { return static_cast<uint16_t>(*value.value); }
 
 template <size_t mostBytes>
 const char* Shown(const ItemText<mostBytes>& value)

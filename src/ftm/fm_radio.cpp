@@ -1,0 +1,152 @@
+// The FM radio: chip, tuning, and three requests whose reply is one block of fields.
+#include <algorithm>
+#include <cstring>
+
+#include "ftm/ftm_channel.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr uint16_t tunedElsewhere = 3;  // a status of the tuning that counts as success too
+
+constexpr uint8_t stationInfo = 0;
+constexpr uint8_t programInfo = 1;
+constexpr uint8_t scan = 2;
+constexpr uint32_t blockTimeMs = 20000;
+
+constexpr size_t mostScanEntries = 48;
+
+// A reply block, which is zero where a short reply did not reach.
+struct FmReply
+{
+    static constexpr size_t size = 111;
+
+    uint8_t bytes[size] = {};
+
+    uint8_t Byte(size_t position) const { return bytes[position]; }
+    uint16_t Word(size_t position) const { return static_cast<uint16_t>(bytes[position] | bytes[position + 1] << 8); }
+};
+
+}  // namespace
+
+uint8_t FtmChannel::GET_FM_RADIO_ID(uint16_t* iChip_Id)
+{
+    Trace(hResourceContext, "TANDEKOR_FTM_GET_FM_RADIO_ID(iChip_Id = %d)", *iChip_Id);
+    return StandardBehindEntry(
+        FormattedText("TANDEKOR_FTM_GET_FM_RADIO_ID()"), catalogue::GetFmRadioId, [] {},
+        [&] { packetBuffer.PopWord(iChip_Id); });
+}
+
+// The status word is taken from whatever arrived, also after a failed exchange.
+uint8_t FtmChannel::TUNE_FM_RADIO(uint16_t iChannel, uint16_t* piStatusWord)
+{
+    const FormattedText entry("TANDEKOR_FTM_TUNE_FM_RADIO(iChannel = %d)", iChannel);
+    WriteToLog(hResourceContext, entry.Text());
+    BuildFtmHeader(catalogue::TuneFmRadio);
+    packetBuffer.AddWord(iChannel);
+    uint8_t errorByte = 0;
+    const uint8_t result = Exchange(&errorByte);
+    const uint16_t status = PopStatus({.statusWord = piStatusWord});
+    if (result == 0)
+        return NoReply(entry, errorByte);
+    return status == 0 || status == tunedElsewhere ? Completed(entry) : ErrorCode(entry, status);
+}
+
+uint8_t FtmChannel::RM_RADIO_RDS_TEST(uint16_t* piStatusWord)
+{
+    return Standard(
+        FormattedText("TANDEKOR_FTM_RM_RADIO_RDS_TEST()"), catalogue::RadioRdsTest, [] {}, [] {},
+        {.statusWord = piStatusWord});
+}
+
+// The closing texts begin with a line end. The fields are taken whatever the status is.
+template <typename Take>
+uint8_t FtmChannel::FmBlock(const char* entryName, const char* name, uint8_t subCommand, Take take)
+{
+    constexpr size_t dataLength = 101;
+    Trace(hResourceContext, "%s()", entryName);
+    BuildFtmHeader(catalogue::FmRadioBlock);
+    const uint8_t data[dataLength] = {0, subCommand};
+    packetBuffer.AddBytes(data, dataLength);
+    uint8_t errorByte = 0;
+    if (ExchangeWithTimeout(blockTimeMs, &errorByte) == 0)
+    {
+        Trace(hResourceContext, "\n%s() - SendSync() fail (error code = %i)", name, errorByte);
+        return 0;
+    }
+    FmReply reply;
+    packetBuffer.PopBytes(reply.bytes, FmReply::size);
+    take(reply);
+    const uint8_t status = reply.Byte(10);
+    if (status != 0)
+    {
+        Trace(hResourceContext, "\n%s() - error code = %d", name, status);
+        return 0;
+    }
+    Trace(hResourceContext, "\n%s() - Completed successfully\n", name);
+    return 1;
+}
+
+uint8_t FtmChannel::FM_RADIO_SCAN_ALL_RF(uint8_t* piFmStatus, uint8_t* piFmScanValid, uint8_t* piFmScanCount,
+                                         uint16_t* piFmScanList)
+{
+    return FmBlock("TANDEKOR_FTM_FM_RADIO_SCAN_RF", "TANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF", scan,
+                   [&](const FmReply& reply)
+                   {
+                       *piFmStatus = reply.Byte(10);
+                       *piFmScanValid = reply.Byte(13);
+                       *piFmScanCount = static_cast<uint8_t>(std::min<size_t>(reply.Byte(14), mostScanEntries));
+                       if (*piFmScanValid != 1)
+                           return;
+                       for (size_t i = 0; i < *piFmScanCount; ++i)
+                           piFmScanList[i] = reply.Word(15 + 2 * i);
+                   });
+}
+
+uint8_t FtmChannel::FM_RADIO_GET_STATION_INFO(uint8_t* piFmStatus, uint8_t* piStationField1, uint16_t* piStationField2,
+                                              uint8_t* piStationField3, uint8_t* piStationField4,
+                                              uint16_t* piStationField5, uint8_t* piStationField6,
+                                              uint8_t* piStationField7, uint8_t* piStationField8,
+                                              uint8_t* piStationField9, uint16_t* piStationField10)
+{
+    constexpr char name[] = "TANDEKOR_FTM_FM_RADIO_GET_STATION_INFO";
+    return FmBlock(name, name, stationInfo,
+                   [&](const FmReply& reply)
+                   {
+                       *piFmStatus = reply.Byte(10);
+                       *piStationField1 = reply.Byte(13);
+                       *piStationField2 = reply.Word(14);
+                       *piStationField3 = reply.Byte(16);
+                       *piStationField4 = reply.Byte(17);
+                       *piStationField5 = reply.Word(18);
+                       *piStationField6 = reply.Byte(20);
+                       *piStationField7 = reply.Byte(21);
+                       *piStationField8 = reply.Byte(22);
+                       *piStationField9 = reply.Byte(23);
+                       *piStationField10 = reply.Word(24);
+                   });
+}
+
+// A program text without a NUL ends with the block.
+uint8_t FtmChannel::FM_RADIO_GET_PROGRAM_INFO(uint8_t* piFmStatus, uint16_t* piProgramField1, uint8_t* piProgramField2,
+                                              char* psProgramText, uint8_t* piProgramField3, uint8_t* piProgramField4)
+{
+    constexpr char name[] = "TANDEKOR_FTM_FM_RADIO_GET_PROGRAM_INFO";
+    return FmBlock(name, name, programInfo,
+                   [&](const FmReply& reply)
+                   {
+                       *piFmStatus = reply.Byte(10);
+                       *piProgramField1 = reply.Word(13);
+                       *piProgramField2 = reply.Byte(15);
+                       const uint8_t* text = reply.bytes + 16;
+                       const uint8_t* end = std::find(text, reply.bytes + FmReply::size, uint8_t{0});
+                       *std::copy(text, end, psProgramText) = '\0';
+                       *piProgramField3 = reply.Byte(25);
+                       *piProgramField4 = reply.Byte(26);
+                   });
+}
+
+}  // namespace tandekor
