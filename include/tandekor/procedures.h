@@ -1,5 +1,5 @@
 /*
- * Multi-step procedures: power and mode of the phone, its identification.
+ * Multi-step procedures: power, mode and identification of the phone, and the tests and calibrations of a line.
  *
  * A procedure writes each of its steps to the text log: a start line, and a result line that ends in "Completed
  * successfully" or "Failure". The first step that fails ends the procedure with the result 0; its line says why, and
@@ -124,6 +124,317 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum,
                                                       uint16_t* piCamId);
+
+    /* --- Receiver. The phone is in FTM mode. The library computes nothing: the caller works out the corrections. */
+
+    /*
+     * One measurement of the GSM receiver. cBin3: out, 128 bytes, the receive offsets stored in the phone. eNewMode,
+     * iChannel, iSlotNum, iRxFunction, iLNArange: mode, channel, burst slot, receive function and LNA range. piRSSI:
+     * out, as the host library has it.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_RX_GSM_Adjust(ResourceContext hResourceContext, uint8_t* cBin3, uint16_t eNewMode,
+                                                uint16_t iChannel, uint8_t iSlotNum, int16_t iRxFunction,
+                                                uint8_t iLNArange, void* piRSSI);
+
+    /*
+     * One measurement of the WCDMA receiver, with what the caller stores on the way. In the order of the steps:
+     * iLNArange: LNA range. iDvgaExpectedRX_AGC in, piDVGAoffsetValue out (as the host library has it): DVGA offset.
+     * iWriteItemID, pWriteItemData, iWriteLength (bytes) in, piWriteStatus out: a direct NV write. eVgaNvBand, iOffset,
+     * piVsFreq (16 bytes, or null to leave it): VGA gain to store. eFallNvBand in, piFall1 to piFall3 out (2 bytes
+     * each, low byte first): LNA fall thresholds. iReadItemID, iReadLength (bytes) in, pReadItemData, piReadStatus out:
+     * a direct NV read. eRiseNvBand, piRise1 to piRise3: LNA rise thresholds. iLNAindex, iLnaExpectedRX_AGC in,
+     * piLNAoffsetValue out: LNA offset. Bands are 4, 5 and 6; another fails. The status of the direct operations (0 is
+     * success) is for the caller: it does not end the procedure.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_RX_WCDMA_Adjust(
+        ResourceContext hResourceContext, uint8_t iLNArange, int16_t iDvgaExpectedRX_AGC, void* piDVGAoffsetValue,
+        uint16_t iWriteItemID, uint8_t* pWriteItemData, int32_t iWriteLength, uint16_t* piWriteStatus,
+        uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1,
+        uint8_t* piFall2, uint8_t* piFall3, uint16_t iReadItemID, uint8_t* pReadItemData, int32_t iReadLength,
+        uint16_t* piReadStatus, uint16_t eRiseNvBand, uint8_t* piRise1, uint8_t* piRise2, uint8_t* piRise3,
+        uint16_t iLNAindex, int16_t iLnaExpectedRX_AGC, int16_t* piLNAoffsetValue);
+
+    /*
+     * Stores a receiver calibration in one batch of NV writes. bStartBatchMode: given to the host library; the batch is
+     * flushed whatever it is. Gsm...Range1 to 4: gain range tables of 16 bytes (900, 850) or 32 bytes (1900, 1800),
+     * each may be null to be left alone. eNvBand (4, 5 or 6), iOffset1 to 3, piVsFreq1 to 3 (16 bytes or null): LNA
+     * offsets of a WCDMA band with their tables. eVgaNvBand (4, 5 or 6), iOffset, piVsFreq (16 bytes or null): VGA
+     * gain. After a failure the writes so far stay in the host library's queue.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_Write_RX_Adjustment_Values(
+        ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
+        uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
+        uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
+        uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2,
+        uint8_t* Gsm850Range3, uint8_t* Gsm850Range4, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1,
+        int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3, uint16_t eVgaNvBand,
+        uint16_t iOffset, uint8_t* piVsFreq);
+
+    /* --- Transmitter. The phone answers FTM requests. A procedure that fails leaves the transmitter as it is then. */
+
+    /*
+     * GSM burst on a mode and channel with a PA DAC input; the transmitter is off at the end. iDataSource, iTSCindex,
+     * iNumBursts: data source, training sequence and number of bursts; bIsInfiniteDuration: bursts without end.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_GSM_PA_OutputPower(ResourceContext hResourceContext, uint16_t eNewMode,
+                                                     uint16_t iChannel, uint8_t iSlotNum, int16_t iDataSource,
+                                                     uint8_t iTSCindex, uint32_t iNumBursts,
+                                                     uint8_t bIsInfiniteDuration, uint16_t iDACinput);
+
+    /* GSM burst on a mode and channel at a power level; the transmitter is on at the end. */
+    TANDEKOR_API uint8_t TANDEKOR_Set_TX_PowerOn(ResourceContext hResourceContext, uint16_t eNewMode, uint16_t iChannel,
+                                                 uint8_t iPowerLevelID, uint8_t iSlotNum, int16_t iDataSource,
+                                                 uint8_t iTSCindex, uint32_t iNumBursts, uint8_t bIsInfiniteDuration);
+
+    /*
+     * WCDMA transmission on a mode and channel with PA range, CW waveform and PDM value; the transmitter is on at the
+     * end of the first and off at the end of the second.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_WCDMA_PA_OutputPower(ResourceContext hResourceContext, uint16_t eNewMode,
+                                                       uint16_t iChannel, uint16_t iPArange, uint8_t bSelectCW,
+                                                       uint16_t iPDMtype, uint16_t iPDMvalue);
+    TANDEKOR_API uint8_t TANDEKOR_AFC_Deviation(ResourceContext hResourceContext, uint16_t eNewMode, uint16_t iChannel,
+                                                uint16_t iPArange, uint8_t bSelectCW, uint16_t iPDMtype,
+                                                uint16_t iPDMvalue);
+
+    /*
+     * Averages of ADC readings, by the phone model: the first value over iAverageCount readings, the second and third
+     * over iSecondAverageCount. Mind that the third value's pointer stands in front of the second's. 255.0 is a value
+     * that was not measured. iAverageCount 0 gives 0 with a first value of 0.0; iSecondAverageCount 0 gives 0 with the
+     * first value measured and the others 255.0. A model whose ADC is not known gives 0 with nothing written.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_CheckDACValues(ResourceContext hResourceContext, uint16_t iAverageCount,
+                                                 double* pdFirstValue, uint16_t iSecondAverageCount,
+                                                 double* pdThirdValue, double* pdSecondValue);
+
+    /* --- Test calls of a phone in FTM mode. What a failed chain has opened stays open. Times are in milliseconds. */
+
+    /*
+     * GSM: receive metrics (out, one byte each), handover to a channel (iChannel to iLoopbackType), a call on another
+     * (bInitSession 1 opens the session; iBcchChannel, iBcchBand, iBCCH_TimeOut_ms), its traffic channel, and its end
+     * (bCloseControl other than 0 closes the session).
+     */
+    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_GSM(ResourceContext hResourceContext, uint8_t* piDED_RPtRxLev_Full,
+                                                         uint8_t* piDED_RPtRxQual_Full, uint16_t iChannel,
+                                                         uint8_t iBand, uint8_t iTSC, uint8_t iSlot, uint8_t iMode,
+                                                         uint8_t iPowerLevel, uint8_t iLoopbackType,
+                                                         uint8_t bInitSession, uint16_t iBcchChannel, uint8_t iBcchBand,
+                                                         uint32_t iBCCH_TimeOut_ms, uint16_t iTrafficLoopbackType,
+                                                         uint8_t iTrafficSlot, uint8_t iTrafficMode,
+                                                         uint8_t bCloseControl);
+
+    /* WCDMA: pilot of a channel, session, its state (out, one byte), and a channel set up by the last seven values. */
+    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_WCDMA(ResourceContext hResourceContext, uint16_t iChannel,
+                                                           uint32_t iTimeOut_ms, uint8_t* pWCDMA_BER_State,
+                                                           uint8_t iRMC_Type, uint8_t iUL_MaxTxPwr,
+                                                           uint32_t iUL_DPCH_ScrCode, uint8_t iUL_PCA,
+                                                           uint8_t iUL_TPC_StepSize, uint16_t iDL_PriCPICH_Scr_Code,
+                                                           uint16_t iDL_ChanCode);
+
+    /*
+     * HSDPA: session, configuration of each channel, state (out, one byte). aiCodes: iNumCodes bytes.
+     * aiMemPartitionInfo: as the host library has it, at least one byte for each HARQ process, or null.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_HSDPA(
+        ResourceContext hResourceContext, uint8_t iReconfigBitmask, uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes,
+        uint8_t* aiCodes, uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
+        void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle, uint8_t iCQI_RepetitionFactor,
+        uint8_t iDeltaCQI, uint8_t iDeltaACK, uint8_t iDeltaNACK, uint8_t iACK_NACK_RepetitionFactor,
+        uint8_t* pHSDPA_BER_State);
+
+    /*
+     * EDGE: call (bInitSession 1 opens the session), downlink and uplink on one pair of slots, loopback, state and
+     * receive level (out, one byte each). The six reserved words are not read.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_EDGE(
+        ResourceContext hResourceContext, uint8_t bInitSession, uint16_t iChannel, uint8_t iBand,
+        uint32_t iBCCH_TimeOut_ms, uint8_t iDL_TSC, uint8_t iDL_TFI, uint32_t iReserved7, uint32_t iReserved8,
+        uint8_t bFirstSlotActive, uint8_t iFirstSlotNum, uint8_t bSecondSlotActive, uint8_t iSecondSlotNum,
+        uint8_t iUL_TSC, uint8_t iUSF, uint8_t iGamma, uint32_t iReserved16, uint32_t iReserved17, uint32_t iReserved18,
+        uint32_t iReserved19, uint8_t* pEGPRS_BER_State, uint8_t* piRxLev_average);
+
+    /* Originates a GSM call on the phone's normal call stack and ends it at once. aiIMSI: iNumDigits bytes. */
+    TANDEKOR_API uint8_t TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits, uint8_t* aiIMSI);
+
+    /* --- Network and SIM */
+
+    /*
+     * Activates the on-chip virtual SIM of an online phone: service programming code, FTM mode (by a reset if need be),
+     * clock, back online, SIM; takes at least 4 and at most about 46 seconds of waits. iSPC: text with a NUL, shown in
+     * the log. piSPC_Result: out, not looked at. A failed clock is logged and passed over. The log is muted while the
+     * phone restarts, and never left muted.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result);
+
+    /* Sets the phone's clock to Coordinated Universal Time. The host library's time mode is given as 0. */
+    TANDEKOR_API uint8_t TANDEKOR_SpecialSetRtcActualTime(ResourceContext hResourceContext);
+
+    /*
+     * Stores which network the phone looks for (eNetwMode) and its last good channel (eChannelMode, uiChannel, which
+     * the modes 0 and 5 ignore). The modes 0, 2, 3, 4 and 5 are known; another fails, after a first item was cleared.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_NetworkAndChannelPreselection(ResourceContext hResourceContext, uint8_t eNetwMode,
+                                                                uint8_t eChannelMode, uint16_t uiChannel);
+
+    /* Roaming list and automatic answer: 1 is on, any other value off. */
+    TANDEKOR_API uint8_t TANDEKOR_NV_SetRoamingListStatus(ResourceContext hResourceContext, uint8_t bRoamingListOn);
+    TANDEKOR_API uint8_t TANDEKOR_NVSetAutoAnswerStatus(ResourceContext hResourceContext, uint8_t bAutoAnswerOn);
+
+    /* --- Audio */
+
+    /* Sets the audio path with the microphone's bias; the audio device 15 needs a request of its own. */
+    TANDEKOR_API uint8_t TANDEKOR_MicrophoneBiasVoltages(ResourceContext hResourceContext, uint16_t iAudioDevice);
+
+    /* Sets the audio path and switches the loopback of the microphone. */
+    TANDEKOR_API uint8_t TANDEKOR_AudioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
+                                            uint8_t bLoopbackOn);
+
+    /* Sets the audio path and volume, starts a tone of two frequencies in Hz, and stops it at once. */
+    TANDEKOR_API uint8_t TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDevice, uint8_t iVolume,
+                                              uint16_t iHiFreq, uint16_t iLoFreq);
+
+    /*
+     * Captures iNumBuffers of PCM data and fetches iDataSize bytes of them from iDataOffset on into pBuffer (out,
+     * iDataSize bytes); then writes the NV item iItemID (iLength bytes of pItemData) and adjusts the transmit gain of
+     * the codec. iReservedWord is not read. After a failed fetch the capture goes on. The log shows pBuffer and
+     * pItemData as text, up to their first NUL and at most all of them.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers,
+                                                 uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer,
+                                                 uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
+                                                 uint32_t iReservedWord, int16_t iCodecTxGainAdjust);
+
+    /* Changes a clock register of the codec. Not checked, not logged; fails only if the register cannot be read. */
+    TANDEKOR_API uint8_t TANDEKOR_DIAG_DISABLE_48KHz(ResourceContext hResourceContext);
+
+    /* --- Keypad and display */
+
+    /* Loads one of the key maps 1 to 11 into the host library, whose map is emptied first, also for another number. */
+    TANDEKOR_API uint8_t TANDEKOR_SpecialSetKeypadMapping(ResourceContext hResourceContext, uint8_t iMappingID);
+
+    /*
+     * Empties the queue of key events and reads its size and the next event (out: key, and whether it went down or up,
+     * as the host library has them). There is no wait for a key.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_TestKeypad(ResourceContext hResourceContext, uint16_t* piKeypressQueueSize,
+                                             uint16_t* piKeyPressID, uint8_t* piKeyPressEvent);
+
+    /* Chooses a display by its number on the models 3, 32 to 36 and 40; other models have display 0 only. */
+    TANDEKOR_API uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t uiDsplNum);
+
+    /* Choose a display and show an image file on it. sFileName: a buffer of 128 bytes, all of which are sent. */
+    TANDEKOR_API uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName,
+                                                          uint8_t uiDsplNum);
+    TANDEKOR_API uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName,
+                                                               uint8_t uiDsplNum);
+
+    /* --- Bluetooth */
+
+    /* Continuous wave on a channel of the module. */
+    TANDEKOR_API uint8_t TANDEKOR_SetCWPowerBluetooth(ResourceContext hResourceContext, uint8_t iChannel);
+
+    /* Starts the module with the phone's stored address. szAddr: out, 13 bytes, that address as a text with a NUL. */
+    TANDEKOR_API uint8_t TANDEKOR_BluetoothTestConnect(ResourceContext hResourceContext, char* szAddr);
+
+    /* Identification of the module. pModuleVersion: out, as the host library has it; the others as of
+     * TANDEKOR_FTM_GET_BT_PARAM. */
+    TANDEKOR_API uint8_t TANDEKOR_Bluetooth_HW_ID(ResourceContext hResourceContext, void* pModuleVersion,
+                                                  uint16_t* piBtStatus, uint8_t* piBtParam1, uint8_t* piBtParam2,
+                                                  uint8_t* piBtParam3);
+
+    /* --- Charging and supply. Nothing is measured: the caller does that from outside. */
+
+    /*
+     * Low power mode, charger switches 7 and 3, a charger transistor (eChgTransistor 0 or 1, bState), limits, and the
+     * state of a transistor (eChgTransistorRead 1; *pbState out, 1 or 0). iVoltage: 4000 to 4375, iCurrent: 10 to 300,
+     * in the units of the phone's charger (no unit is stated; steps of 25 and 10). After low power mode 3 the phone has
+     * to be reset, which the log says, and the further steps are tried all the same.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_Charging_Test(ResourceContext hResourceContext, uint8_t iLowPowerMode,
+                                                uint8_t iChargerSwitchCommand7, uint8_t eChgTransistor, uint8_t bState,
+                                                uint8_t iChargerSwitchCommand3, uint32_t iVoltage, uint32_t iCurrent,
+                                                uint8_t eChgTransistorRead, uint8_t* pbState);
+
+    /*
+     * Supply of camera iCameraNum (0 or 1) with the display's backlight iLevel. On the models 12 to 15, 32 to 36 and 40
+     * also the supply mode (iSupplyMode 1 or 2 sets its bit, any other value clears it) and the accessory supply
+     * bOnOff; on 22 to 25 the accessory supply; on 52 to 55 neither. Any other model fails without a line in the log.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_SupplyVoltageTest(ResourceContext hResourceContext, uint8_t iCameraNum,
+                                                    uint8_t iLevel, uint8_t iSupplyMode, uint8_t bOnOff);
+
+    /* Accessory supply on the models 12 to 15, 22 to 25, 32 to 36 and 40; any other fails without a line in the log. */
+    TANDEKOR_API uint8_t TANDEKOR_SpecialSwitchAccSupplyVoltage(ResourceContext hResourceContext, uint8_t bOnOff);
+
+    /* --- Identity and storage */
+
+    /*
+     * Reads the IMEI. sImei: out, 16 bytes, 15 digits and a NUL; empty if the phone refuses the item, and untouched if
+     * the exchange fails.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei);
+
+    /* Writes the IMEI and reads it back. sImei: 15 characters; of each the low four bits count. */
+    TANDEKOR_API uint8_t TANDEKOR_NV_WRITE_IMEI(ResourceContext hResourceContext, const char* sImei);
+
+    /*
+     * Freezes the phone. THIS CANNOT BE UNDONE. Compares IMEI (9 bytes), Bluetooth address (6 bytes) and serial number
+     * (16 bytes) in the form in which the phone stores them, each up to the first zero byte of the caller's value; only
+     * if all are equal does it write the key (260 bytes), read it back, compare it and lock the device. The result is
+     * the host library's byte of the last command. All lines of this procedure end with their own words, not with the
+     * usual "Completed successfully" and "Failure".
+     */
+    TANDEKOR_API uint8_t TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8_t* pExpectedImei,
+                                                    const uint8_t* pExpectedBtAddress, const uint8_t* pExpectedSerial,
+                                                    const uint8_t* pPublicKey);
+
+    /* The identification of the flash: maker in the upper bits, device in the low 8. */
+    TANDEKOR_API uint8_t TANDEKOR_FlashTest(ResourceContext hResourceContext, uint32_t* piFlashId);
+
+    /* Writes 16 random bytes to the file \Test.bin on the memory card and reads them back. */
+    TANDEKOR_API uint8_t TANDEKOR_SpecialMmcTest(ResourceContext hResourceContext);
+
+    /* --- FM radio, tracking byte, uploads */
+
+    /*
+     * Sets the audio path, reads the radio chip's identifier, tunes to a channel and reads the radio's information
+     * twice: *pcFmValue ends as that of TANDEKOR_SpecialGetFmRadioInfo for 2.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_FM_RadioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
+                                               uint16_t* iChip_Id, uint16_t iChannel, uint16_t* piStatusWord,
+                                               uint8_t* pcFmValue);
+
+    /*
+     * Information of the radio chip: eFmData 0 gives a number 0 to 15, 1 and 2 give a bit; any other value fails after
+     * the exchange. *pcFmValue: out, 255 when there is none.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_SpecialGetFmRadioInfo(ResourceContext hResourceContext, uint8_t eFmData,
+                                                        uint8_t* pcFmValue);
+
+    /* As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 alone. */
+    TANDEKOR_API uint8_t TANDEKOR_SetFactoryTrackingByte(ResourceContext hResourceContext, uint8_t iOperationType,
+                                                         uint16_t iDataAddress, uint8_t* pFactoryData);
+
+    /* An argument of an upload: the host library's own, handed on as it is. As wide as a pointer. */
+    typedef uintptr_t TandekorUploadArgument;
+
+    /*
+     * Uploads of the host library, which it has only in its QPST mode. Progress goes to the function that
+     * TANDEKOR_SetCallback has set, with percentages only for an upload of more than 2000 bytes. Nothing checks that
+     * the phone answers.
+     */
+    TANDEKOR_API uint8_t TANDEKOR_UploadCEFS_File2(ResourceContext hResourceContext, TandekorUploadArgument a1,
+                                                   TandekorUploadArgument a2, TandekorUploadArgument a3);
+    TANDEKOR_API uint8_t TANDEKOR_UploadCEFS_File(ResourceContext hResourceContext, TandekorUploadArgument a1,
+                                                  TandekorUploadArgument a2);
+    TANDEKOR_API uint8_t TANDEKOR_UploadMultiImage(
+        ResourceContext hResourceContext, TandekorUploadArgument a1, TandekorUploadArgument a2,
+        TandekorUploadArgument a3, TandekorUploadArgument a4, TandekorUploadArgument a5, TandekorUploadArgument a6,
+        TandekorUploadArgument a7, TandekorUploadArgument a8, TandekorUploadArgument a9, TandekorUploadArgument a10,
+        TandekorUploadArgument a11, TandekorUploadArgument a12, TandekorUploadArgument a13, TandekorUploadArgument a14,
+        TandekorUploadArgument a15, TandekorUploadArgument a16, TandekorUploadArgument a17, TandekorUploadArgument a18,
+        TandekorUploadArgument a19, TandekorUploadArgument a20, TandekorUploadArgument a21, TandekorUploadArgument a22,
+        TandekorUploadArgument a23);
 
 #ifdef __cplusplus
 }

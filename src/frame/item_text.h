@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 
 namespace tandekor
@@ -14,8 +15,9 @@ template <size_t mostBytes>
 class ItemText
 {
 public:
-    explicit ItemText(const void* item, size_t itemLength = mostBytes)
-        : bytes(item), length(std::min(itemLength, mostBytes))
+    explicit ItemText(const void* item, int64_t itemLength = mostBytes)
+        : bytes(static_cast<const char*>(item)),
+          length(static_cast<size_t>(std::clamp<int64_t>(itemLength, 0, mostBytes)))
     {
     }
 
@@ -23,13 +25,15 @@ public:
     {
         if (bytes == nullptr)
             return "(null)";
-        std::memcpy(text, bytes, length);
-        text[length] = '\0';
+        const void* end = std::memchr(bytes, '\0', length);
+        const size_t shown = end == nullptr ? length : static_cast<size_t>(static_cast<const char*>(end) - bytes);
+        std::memcpy(text, bytes, shown);
+        text[shown] = '\0';
         return text;
     }
 
 private:
-    const void* bytes;
+    const char* bytes;
     size_t length;
     mutable char text[mostBytes + 1];
 };

@@ -59,11 +59,7 @@ uint8_t PhoneProcedures::FTM_TO_ONLINE() { return DirectModeChange(false); }
 bool PhoneProcedures::DirectModeChange(bool toFtm)
 {
     uint8_t mode = toFtm ? 1 : 0;
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && Step(
-               "TANDEKOR_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %s, iLength = 1)",
-               [&] { return TANDEKOR_DIAG_NV_WRITE_F(hResourceContext, startModeItem, &mode, 1); }, startModeItem,
-               ItemText<1>(&mode))
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && WriteItem(startModeItem, &mode, 1)
            && SendControl(toFtm ? goToFtm : goOnline)
            && Step(
                "QLIB_IsFTM_Mode", "(pbIsFTMMode = %i)", [&] { return QLIB_IsFTM_Mode(hResourceContext, &mode); }, mode)

@@ -103,17 +103,6 @@ CameraIdRead CameraIdReadOf(uint8_t camera, uint32_t model)
 
 }  // namespace
 
-bool PhoneProcedures::AskPhoneModel(uint32_t* piPhoneModel)
-{
-    uint32_t verNumber = 0;
-    uint32_t msmModel = 0;
-    *piPhoneModel = 0;
-    return Step(
-        "TANDEKOR_Phone_Model", "(piVerNumber = %i, piMSMModel = %i, piPhoneModel = %i)",
-        [&] { return TANDEKOR_Phone_Model(hResourceContext, &verNumber, &msmModel, piPhoneModel); }, verNumber,
-        msmModel, *piPhoneModel);
-}
-
 // The pin is enabled before its level goes out. The arguments' text is that of the caller's result lines.
 bool PhoneProcedures::WritePin(const PinRegisters& registers, uint32_t mask, uint8_t state, const char* arguments)
 {

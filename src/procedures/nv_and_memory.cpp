@@ -1,8 +1,7 @@
 // NV items and hardware registers of the phone, with the checks that a bare host call lacks.
-#include <algorithm>
-
 #include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/nv_status.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor
@@ -10,17 +9,6 @@ namespace tandekor
 
 namespace
 {
-
-// The status of an NV operation: 16 bits count, and there is room for a host library that writes 32.
-class NvStatus
-{
-public:
-    uint16_t* Out() { return words; }
-    uint16_t Value() const { return words[0]; }
-
-private:
-    uint16_t words[2] = {};
-};
 
 // One width of the host library's register access.
 template <typename Value>
@@ -79,7 +67,7 @@ bool PhoneProcedures::NV_READ_GSM_RX_REL_OFFSETS(uint16_t iItemID, uint8_t* cBin
            && StepWithoutStart(
                "TANDEKOR_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = %i)",
                [&] { return TANDEKOR_DIAG_NV_READ_F(hResourceContext, iItemID, cBin3, iLength); }, iItemID,
-               ItemText<textAreaSize>(cBin3, static_cast<size_t>(std::max(iLength, 0))), iLength);
+               ItemText<textAreaSize>(cBin3, iLength), iLength);
 }
 
 bool PhoneProcedures::DIAG_NV_WRITE_FLUSH_BATCH_QUEUE()

@@ -1,8 +1,6 @@
 #include "procedures/phone_procedures.h"
 
-#include "platform/clock.h"
 #include "platform/qmsl.h"
-#include "procedures/start_mode.h"
 #include "tandekor/library.h"
 
 namespace tandekor
@@ -43,29 +41,6 @@ uint8_t PhoneProcedures::Start_LOG(const char* sLogFile)
     QLIB_SetLogFlags(hResourceContext, normalLogging);
     StepTrace(STEP_START, "TANDEKOR DLL Version: %s", version);
     return 1;
-}
-
-bool PhoneProcedures::SendControl(uint32_t eMode)
-{
-    return Step(
-        "QLIB_DIAG_CONTROL_F", "(eMode = %d)", [&] { return QLIB_DIAG_CONTROL_F(hResourceContext, eMode); }, eMode);
-}
-
-bool PhoneProcedures::WaitForOffline(bool (PhoneProcedures::*askState)(uint8_t*), const char* reachedText,
-                                     const char* missedText)
-{
-    uint8_t state = stateOnline;
-    const platform::TimeLimit limit(12000);
-    while (limit.Running())
-    {
-        if (!(this->*askState)(&state))
-            return false;
-        if (state == stateOffline)
-            return StepTrace(STEP_START, "%s", reachedText);
-        platform::Sleep(250);
-    }
-    StepTrace(STEP_FAILURE, "%s", missedText);
-    return false;
 }
 
 }  // namespace tandekor

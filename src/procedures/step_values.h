@@ -34,6 +34,22 @@ struct LowWordOf
 
 inline uint16_t Shown(const LowWordOf& value) { return static_cast<uint16_t>(*value.value); }
 
+// A field of %i for an unsigned 16-bit out-value that is shown with a sign.
+struct SignedWordOf
+{
+    const uint16_t* value;
+};
+
+inline int16_t Shown(const SignedWordOf& value) { return static_cast<int16_t>(*value.value); }
+
+// A field of %d for a 16-bit value in an item's bytes, low byte first.
+struct WordAt
+{
+    const uint8_t* bytes;
+};
+
+inline uint16_t Shown(const WordAt& value) { return static_cast<uint16_t>(value.bytes[0] | value.bytes[1] << 8); }
+
 template <size_t mostBytes>
 const char* Shown(const ItemText<mostBytes>& value)
 {

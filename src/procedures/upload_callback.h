@@ -1,5 +1,7 @@
-// The caller's function that uploads report their progress to, one for the process.
+// The progress of uploads, which the host library reports and the caller's function is told. One for the process.
 #pragma once
+
+#include <cstdint>
 
 #include "tandekor/procedures.h"
 
@@ -8,6 +10,8 @@ namespace tandekor
 
 // Null sets none.
 void SetUploadCallback(TandekorCallback callback);
-TandekorCallback UploadCallback();
+
+// What the host library calls, with a record of words: word 0 is the event's code, word 2 its value. Gives 1.
+uint8_t UploadProgressCallback(const uint32_t* record);
 
 }  // namespace tandekor

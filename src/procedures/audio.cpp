@@ -1,0 +1,125 @@
+// The phone's audio path: microphone bias, loopback, tone, PCM capture, and the clock of its codec.
+#include <algorithm>
+#include <iterator>
+
+#include "frame/internal_functions.h"
+#include "platform/qmsl.h"
+#include "procedures/phone_procedures.h"
+#include "tandekor/procedures.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr uint32_t rawRequestTimeMs = 2000;
+
+// Device 15 needs a request of its own, of which both declared lengths are that of the whole.
+constexpr uint16_t deviceWithRequest = 15;
+constexpr uint8_t biasRequest[14]
+    = {0x4B, 0x0B, 0x01, 0x80, 0x70, 0x04, 0x0E, 0x00, 0x0E, 0x00, 0x00, 0x0B, 0x01, 0x00};
+constexpr int biasStatus = 10;
+
+constexpr uint32_t codecClockRegister = 0x84001308;
+
+}  // namespace
+
+uint8_t PhoneProcedures::MicrophoneBiasVoltages(uint16_t iAudioDevice)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0
+        || !CallStep("QLIB_FTM_AUDIO_SET_PATH", QLIB_FTM_AUDIO_SET_PATH, "(iAudioDevice = %d)", iAudioDevice))
+        return 0;
+    if (iAudioDevice != deviceWithRequest)
+        return 1;
+
+    uint8_t request[sizeof biasRequest];
+    std::copy(std::begin(biasRequest), std::end(biasRequest), request);
+    uint8_t response[sizeof biasRequest] = {};
+    uint16_t responseSize = sizeof response;
+    constexpr int requestSize = sizeof request;
+    if (!Step(
+            "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %s, piResponseSize = %d, iTimeout = 2000)",
+            [&] {
+                return QLIB_SendSync(hResourceContext, sizeof request, request, &responseSize, response,
+                                     rawRequestTimeMs);
+            },
+            requestSize, ItemText<sizeof request>(request), responseSize))
+        return 0;
+    if (response[biasStatus] != 0)
+    {
+        StepTrace(STEP_FAILURE, "QLIB_SendSync <cResponse[10] != 0>");
+        return 0;
+    }
+    return 1;
+}
+
+uint8_t PhoneProcedures::AudioTest(uint16_t iAudioDevice, uint8_t bLoopbackOn)
+{
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && SetMicrophoneBias(iAudioDevice)
+           && CallStep("QLIB_FTM_AUDIO_PCM_LOOPBACK", QLIB_FTM_AUDIO_PCM_LOOPBACK, "(bLoopbackOn = %c)", bLoopbackOn);
+}
+
+// The tone is stopped at once.
+uint8_t PhoneProcedures::TestSpeaker(uint16_t iAudioDevice, uint8_t iVolume, uint16_t iHiFreq, uint16_t iLoFreq)
+{
+    constexpr uint16_t method = 0;
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && SetMicrophoneBias(iAudioDevice)
+           && CallStep("QLIB_FTM_AUDIO_SET_VOLUME", QLIB_FTM_AUDIO_SET_VOLUME, "(iVolume = %c)", iVolume)
+           && CallStep("QLIB_FTM_AUDIO_TONES_PLAY", QLIB_FTM_AUDIO_TONES_PLAY,
+                       "(iHiFreq = %d, iLoFreq = %d, iMethod = %d)", iHiFreq, iLoFreq, method)
+           && CallStep("QLIB_FTM_AUDIO_TONES_STOP", QLIB_FTM_AUDIO_TONES_STOP, "()");
+}
+
+// The capture is not stopped after a failed fetch. The success line of its start lacks the closing bracket.
+uint8_t PhoneProcedures::TestMicrophone(uint16_t iNumBuffers, uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer,
+                                        uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
+                                        int16_t iCodecTxGainAdjust)
+{
+    constexpr uint32_t delayMs = 1000;
+    const auto startCapture = [&]
+    {
+        StepTrace(STEP_START, "\tQLIB_FTM_AUDIO_PCM_CAPTURE() start");
+        const bool done = QLIB_FTM_AUDIO_PCM_CAPTURE(hResourceContext, iNumBuffers, delayMs) != 0;
+        StepTrace(done ? STEP_SUCCESS : STEP_FAILURE, "QLIB_FTM_AUDIO_PCM_CAPTURE(iNumBuffers = %d, iDelay_ms = 1000%s",
+                  iNumBuffers, done ? "" : ")");
+        return done;
+    };
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && startCapture()
+           && Step(
+               "QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA", "(iDataOffset = %d, iDataSize = %d, pBuffer = %s)",
+               [&] { return QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(hResourceContext, iDataOffset, iDataSize, pBuffer); },
+               iDataOffset, iDataSize, ItemText<textAreaSize>(pBuffer, iDataSize))
+           && CallStep("QLIB_FTM_AUDIO_PCM_STOP_CAPTURE", QLIB_FTM_AUDIO_PCM_STOP_CAPTURE, "()")
+           && WriteItem(iItemID, pItemData, iLength)
+           && CallStep("QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST", QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST,
+                       "(iCodecTxGainAdjust = %d)", iCodecTxGainAdjust);
+}
+
+// Neither checks the connection nor writes to the log; what becomes of the write is not looked at.
+uint8_t PhoneProcedures::DIAG_DISABLE_48KHz()
+{
+    uint32_t value = 0;
+    if (QLIB_DIAG_MEMORY_PEEK_DWORD_F(hResourceContext, codecClockRegister, 1, &value) == 0)
+        return 0;
+    value = (value & ~uint32_t{0x01}) | 0x0E;
+
+    constexpr uint8_t pokeDword = 0x05;
+    constexpr uint8_t count = 1;
+    uint8_t request[] = {pokeDword,
+                         static_cast<uint8_t>(codecClockRegister),
+                         static_cast<uint8_t>(codecClockRegister >> 8),
+                         static_cast<uint8_t>(codecClockRegister >> 16),
+                         static_cast<uint8_t>(codecClockRegister >> 24),
+                         count,
+                         static_cast<uint8_t>(value),
+                         static_cast<uint8_t>(value >> 8),
+                         static_cast<uint8_t>(value >> 16),
+                         static_cast<uint8_t>(value >> 24)};
+    uint8_t response[12] = {};
+    uint16_t responseSize = 10;
+    QLIB_SendSync(hResourceContext, sizeof request, request, &responseSize, response, rawRequestTimeMs);
+    return 1;
+}
+
+}  // namespace tandekor

@@ -1,0 +1,205 @@
+// The phone's charger, and its supply lines by phone model. Nothing is measured here: the caller does that from
+// outside.
+#include "frame/internal_functions.h"
+#include "frame/phone_models.h"
+#include "platform/qmsl.h"
+#include "procedures/phone_procedures.h"
+#include "tandekor/ftm.h"
+#include "tandekor/procedures.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr uint8_t deepestLowPowerMode = 3;
+
+// Charger limits, as their first value, last value and step.
+struct LimitRange
+{
+    uint32_t first;
+    uint32_t last;
+    uint32_t step;
+
+    bool Holds(uint32_t value) const { return value >= first && value <= last; }
+    uint8_t IndexOf(uint32_t value) const { return static_cast<uint8_t>((value - first) / step); }
+};
+constexpr LimitRange voltageLimits{4000, 4375, 25};
+constexpr LimitRange currentLimits{10, 300, 10};
+
+constexpr uint32_t transistorStatusId = 11;
+constexpr uint8_t readableTransistor = 1;
+
+// Register bits of the supply.
+constexpr uint32_t biasRegister = 0x84000160;
+constexpr uint8_t biasMask = 0x10;
+constexpr uint32_t modeRegister = 0x8400015C;
+constexpr uint32_t modeMask = 0x20000000;
+constexpr uint32_t supplyRegister = 0x84000164;
+constexpr uint32_t supplyMask = 0x00080000;
+
+// The three ways of setting the supply.
+bool HasModeBit(uint32_t model) { return (model >= 12 && model <= 15) || (model >= 32 && model <= 36) || model == 40; }
+bool HasSupplyBitOnly(uint32_t model) { return model >= 22 && model <= 25; }
+
+}  // namespace
+
+// --- charging
+
+bool PhoneProcedures::SetChargerSwitch(uint32_t iChargerSwitchType, uint8_t iChargerSwitchCommand)
+{
+    return CallStep("QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE", QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE,
+                    "(iChargerSwitchType = %i, iChargerSwitchCommand = %c)", iChargerSwitchType, iChargerSwitchCommand);
+}
+
+// The deepest low power mode is reported like a failure, and the procedure goes on.
+uint8_t PhoneProcedures::Charging_Test(uint8_t iLowPowerMode, uint8_t iChargerSwitchCommand7, uint8_t eChgTransistor,
+                                       uint8_t bState, uint8_t iChargerSwitchCommand3, uint32_t iVoltage,
+                                       uint32_t iCurrent, uint8_t eChgTransistorRead, uint8_t* pbState)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0
+        || !CallStep("TANDEKOR_FTM_SET_LOW_POWER_MODE", TANDEKOR_FTM_SET_LOW_POWER_MODE, "(iLowPowerMode = %c)",
+                     iLowPowerMode))
+        return 0;
+    if (iLowPowerMode == deepestLowPowerMode)
+    {
+        StepTrace(STEP_FAILURE, "[!!! LPM3 -> PHONE HAS TO BE RESET NOW !!!]");
+        StepTrace(STEP_FAILURE, "[!!! NO MORE COMMUNICATION POSSIBLE !!!]");
+    }
+    return SetChargerSwitch(7, iChargerSwitchCommand7)
+           && CallStep("TANDEKOR_SpecialSetChargeFetState", TANDEKOR_SpecialSetChargeFetState,
+                       "(eChgTransistor = %c, bState = %c)", eChgTransistor, bState)
+           && SetChargerSwitch(3, iChargerSwitchCommand3)
+           && CallStep("TANDEKOR_SpecialSetPmicChargeLimits", TANDEKOR_SpecialSetPmicChargeLimits,
+                       "(iVoltage = %d, iCurrent = %d)", iVoltage, iCurrent)
+           && Step(
+               "TANDEKOR_SpecialGetChargeFetState", "(eChgTransistor = %c, bState = %c)",
+               [&] { return TANDEKOR_SpecialGetChargeFetState(hResourceContext, eChgTransistorRead, pbState); },
+               eChgTransistorRead, *pbState);
+}
+
+bool PhoneProcedures::SpecialSetChargeFetState(uint8_t eChgTransistor, uint8_t bState)
+{
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && eChgTransistor <= 1
+           && SetChargerSwitch(eChgTransistor, bState);
+}
+
+bool PhoneProcedures::SpecialSetPmicChargeLimits(uint32_t iVoltage, uint32_t iCurrent)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    if (!voltageLimits.Holds(iVoltage) || !currentLimits.Holds(iCurrent))
+    {
+        StepTrace(STEP_FAILURE, "Parameter out of range.");
+        return false;
+    }
+    return CallStep("QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS",
+                    QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS,
+                    "(iChargerMaxCurrent = %c, iChargerMaxVoltage = %c)", currentLimits.IndexOf(iCurrent),
+                    voltageLimits.IndexOf(iVoltage));
+}
+
+bool PhoneProcedures::SpecialGetChargeFetState(uint8_t eChgTransistor, uint8_t* pbState)
+{
+    uint8_t status = 0;
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0 || eChgTransistor != readableTransistor
+        || !Step(
+            "QLIB_FTM_PMIC_INT_GET_RT_STATUS", "(iInterruptStatusId = 11, piInterruptStatus = %c)",
+            [&] { return QLIB_FTM_PMIC_INT_GET_RT_STATUS(hResourceContext, transistorStatusId, &status); }, status))
+        return false;
+    *pbState = status == 1 ? 1 : 0;
+    return true;
+}
+
+// --- supply
+
+bool PhoneProcedures::AskModelQuietly(uint32_t* piPhoneModel)
+{
+    uint32_t verNumber = 0;
+    uint32_t msmModel = 0;
+    *piPhoneModel = 0;
+    return Step("TANDEKOR_Phone_Model", "()",
+                [&] { return TANDEKOR_Phone_Model(hResourceContext, &verNumber, &msmModel, piPhoneModel); });
+}
+
+bool PhoneProcedures::ConfigureCameraSwitch(uint8_t iCameraNum)
+{
+    return Step(
+        "TANDEKOR_FTM_CONFIGURE_SWITCH", "(iSwitchID = 1, iSwitchState = %d)",
+        [&] { return TANDEKOR_FTM_CONFIGURE_SWITCH(hResourceContext, 1, iCameraNum); }, iCameraNum);
+}
+
+// The address has one digit more in the success line.
+bool PhoneProcedures::SetBiasBit()
+{
+    constexpr uint8_t on = 1;
+    StepTrace(STEP_START, "\tTANDEKOR_SetBitState_8_Reg() start");
+    const bool done = TANDEKOR_SetBitState_8_Reg(hResourceContext, biasRegister, biasMask, on) != 0;
+    if (done)
+        StepTrace(STEP_SUCCESS, "TANDEKOR_SetBitState_8_Reg(iAddress = 0x%x0 + 0, iMask = 0x10, bOnOff = %d)",
+                  biasRegister, on);
+    else
+        StepTrace(STEP_FAILURE, "TANDEKOR_SetBitState_8_Reg(iAddress = 0x%x + 0, iMask = 0x10, bOnOff = %d)",
+                  biasRegister, on);
+    return done;
+}
+
+bool PhoneProcedures::SetModeBit(uint8_t bOnOff)
+{
+    return Step(
+        "TANDEKOR_SetBitState_32_Reg", "(iAddress = 0x%x, iMask = 0x20000000, bOnOff = %d)",
+        [&] { return TANDEKOR_SetBitState_32_Reg(hResourceContext, modeRegister, modeMask, bOnOff); }, modeRegister,
+        bOnOff);
+}
+
+bool PhoneProcedures::SetSupplyBit(uint8_t bOnOff)
+{
+    return Step(
+        "TANDEKOR_SetBitState_32_Reg", "(iAddress = 0x%x, iMask = 0x00080000, bOnOff = %d)",
+        [&] { return TANDEKOR_SetBitState_32_Reg(hResourceContext, supplyRegister, supplyMask, bOnOff); },
+        supplyRegister, bOnOff);
+}
+
+bool PhoneProcedures::SetBacklight(uint8_t iLevel)
+{
+    return CallStep("TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL", TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL, "(iLevel = %d)",
+                    iLevel);
+}
+
+uint8_t PhoneProcedures::SupplyVoltageTest(uint8_t iCameraNum, uint8_t iLevel, uint8_t iSupplyMode, uint8_t bOnOff)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return 0;
+    if (iCameraNum > 1)
+    {
+        StepTrace(STEP_FAILURE, "Wrong camera number");
+        return 0;
+    }
+    uint32_t model = 0;
+    if (!AskModelQuietly(&model))
+        return 0;
+    if (HasModeBit(model))
+    {
+        const uint8_t mode = iSupplyMode == 1 || iSupplyMode == 2 ? 1 : 0;
+        return ConfigureCameraSwitch(iCameraNum) && SetBiasBit() && SetModeBit(mode) && SetBacklight(iLevel)
+               && SetSupplyBit(bOnOff);
+    }
+    if (HasSupplyBitOnly(model))
+        return ConfigureCameraSwitch(iCameraNum) && SetBacklight(iLevel) && SetSupplyBit(bOnOff);
+    // A refused switch is made up for by the camera's own.
+    return IsKolt(model)
+           && (ConfigureCameraSwitch(iCameraNum)
+               || CallStep("TANDEKOR_FTM_KOLT_CAMERA_SWITCH", TANDEKOR_FTM_KOLT_CAMERA_SWITCH, "(iCameraNum = %i)",
+                           iCameraNum))
+           && SetBacklight(iLevel);
+}
+
+uint8_t PhoneProcedures::SpecialSwitchAccSupplyVoltage(uint8_t bOnOff)
+{
+    uint32_t model = 0;
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && AskModelQuietly(&model)
+           && (HasModeBit(model) || HasSupplyBitOnly(model)) && SetSupplyBit(bOnOff);
+}
+
+}  // namespace tandekor

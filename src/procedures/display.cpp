@@ -1,0 +1,79 @@
+// The choice of a display by its number, and a test image on it.
+#include "frame/internal_functions.h"
+#include "frame/phone_models.h"
+#include "platform/qmsl.h"
+#include "procedures/phone_procedures.h"
+#include "tandekor/ftm.h"
+#include "tandekor/procedures.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr size_t fileNameSize = 128;
+constexpr uint32_t rawRequestTimeMs = 2000;
+constexpr uint16_t noRequest = 0;
+
+// The response size that a phone model is offered; 0 for a model that has only display 0.
+uint16_t ResponseSizeOf(uint32_t model)
+{
+    if (model == dravok)
+        return 256;
+    return (model >= 32 && model <= 36) || model == 40 ? uint16_t{12} : noRequest;
+}
+
+}  // namespace
+
+uint8_t PhoneProcedures::SpecialSwitchDisplay(uint8_t uiDsplNum)
+{
+    uint32_t verNumber = 0;
+    uint32_t msmModel = 0;
+    uint32_t phoneModel = 0;
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0
+        || !Step(
+            "TANDEKOR_Phone_Model", "(piVerNumber = %i, piMobModel = %i)",
+            [&] { return TANDEKOR_Phone_Model(hResourceContext, &verNumber, &msmModel, &phoneModel); }, verNumber,
+            msmModel))
+        return 0;
+
+    uint16_t responseSize = ResponseSizeOf(phoneModel);
+    if (responseSize == noRequest)
+    {
+        if (uiDsplNum == 0)
+            return 1;
+        StepTrace(STEP_FAILURE, "ERROR: Mobile not supported");
+        return 0;
+    }
+    uint8_t request[] = {0x4B, 0x0B, 0x00, 0x80, 0xC8, 0x00, 0x01, 0x00, 0x0C, 0x00, uiDsplNum};
+    uint8_t response[4096] = {};
+    constexpr int requestSize = sizeof request;
+    return Step(
+        "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %u, piResponseSize = %i, iTimeout = %i)",
+        [&]
+        { return QLIB_SendSync(hResourceContext, sizeof request, request, &responseSize, response, rawRequestTimeMs); },
+        requestSize, AddressOf{request}, SignedWordOf{&responseSize}, rawRequestTimeMs);
+}
+
+uint8_t PhoneProcedures::FTM_DrawContrastPattern(char* sFileName, uint8_t uiDsplNum)
+{
+    return TANDEKOR_CheckConnection(hResourceContext) != 0
+           && CallStep("TANDEKOR_SpecialSwitchDisplay", TANDEKOR_SpecialSwitchDisplay, "(uiDsplNum = %i)", uiDsplNum)
+           && Step(
+               "TANDEKOR_FTM_DISPLAY_IMAGE", "(sFileName = %s)",
+               [&] { return TANDEKOR_FTM_DISPLAY_IMAGE(hResourceContext, sFileName); },
+               ItemText<fileNameSize>(sFileName));
+}
+
+uint8_t PhoneProcedures::FTM_DrawContrastPattern24Bit(char* sFileName, uint8_t uiDsplNum)
+{
+    return TANDEKOR_CheckConnection(hResourceContext) != 0
+           && CallStep("TANDEKOR_SpecialSwitchDisplay", TANDEKOR_SpecialSwitchDisplay, "(uiDsplNum = %i)", uiDsplNum)
+           && Step(
+               "TANDEKOR_FTM_DISPLAY_IMAGE_24BIT", "(sFileName = %s)",
+               [&] { return TANDEKOR_FTM_DISPLAY_IMAGE_24BIT(hResourceContext, sFileName); },
+               ItemText<fileNameSize>(sFileName));
+}
+
+}  // namespace tandekor

@@ -1,0 +1,239 @@
+// The set-up of a phone: network to look for, last good channel, roaming, auto answer, clock, on-chip SIM.
+#include <algorithm>
+#include <iterator>
+
+#include "frame/internal_functions.h"
+#include "platform/clock.h"
+#include "platform/qmsl.h"
+#include "procedures/phone_procedures.h"
+#include "procedures/start_mode.h"
+#include "tandekor/procedures.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr uint32_t logMuted = 0;
+constexpr uint32_t logNormal = 2;
+
+constexpr uint16_t scanModeItem1 = 10;
+constexpr uint16_t scanModeItem2 = 441;
+constexpr uint16_t scanModeItem3 = 848;
+constexpr uint16_t lastGoodChannelItem = 1894;
+constexpr uint16_t clearedItem = 945;
+constexpr uint16_t roamingItem = 256;
+constexpr uint16_t secondRoamingItem = 1190;
+constexpr uint16_t autoAnswerItem = 74;
+constexpr int32_t longItemSize = 128;
+
+struct NetworkMode
+{
+    uint8_t eNetwMode;
+    uint8_t scanMode1[2];
+    uint8_t scanMode2[3];
+    uint8_t scanMode3[2];
+    bool hasChannel;
+    uint8_t channelKind;
+};
+constexpr NetworkMode networkModes[] = {
+    {0, {0x00, 0x04}, {0x00, 0xFF, 0xFF}, {0x00, 0x02}, false, 0},
+    {2, {0x00, 0x0D}, {0x00, 0x00, 0x01}, {0x00, 0x01}, true, 0},
+    {3, {0x00, 0x0D}, {0x00, 0x80, 0x00}, {0x00, 0x01}, true, 3},
+    {4, {0x00, 0x0D}, {0x00, 0x04, 0x00}, {0x00, 0x01}, true, 2},
+    {5, {0x00, 0x0E}, {0x00, 0x01, 0x00}, {0x00, 0x02}, false, 0},
+};
+
+// Null for a mode that is refused.
+const NetworkMode* FindNetworkMode(uint8_t eNetwMode)
+{
+    const auto* mode = std::find_if(std::begin(networkModes), std::end(networkModes),
+                                    [&](const NetworkMode& entry) { return entry.eNetwMode == eNetwMode; });
+    return mode == std::end(networkModes) ? nullptr : mode;
+}
+
+}  // namespace
+
+// --- the virtual SIM
+
+int PhoneProcedures::WaitForPhone()
+{
+    constexpr int mostFurtherPolls = 20;
+    int furtherPolls = 0;
+    while (QLIB_IsPhoneConnected(hResourceContext) == 0 && furtherPolls < mostFurtherPolls)
+    {
+        platform::Sleep(500);
+        ++furtherPolls;
+    }
+    return furtherPolls;
+}
+
+bool PhoneProcedures::ForceFtmMode(bool* restartedSlowly)
+{
+    uint8_t isFtmMode = 0;
+    QLIB_SetLogFlags(hResourceContext, logMuted);
+    QLIB_DIAG_CONTROL_F(hResourceContext, goOffline);
+    QLIB_DIAG_CONTROL_F(hResourceContext, reset);
+    platform::Sleep(2000);
+    WaitForPhone();
+    platform::Sleep(3000);
+    *restartedSlowly = WaitForPhone() > 0;
+    QLIB_IsFTM_Mode(hResourceContext, &isFtmMode);
+    if (isFtmMode != 0)
+        return true;
+    QLIB_SetLogFlags(hResourceContext, logNormal);
+    StepTrace(STEP_FAILURE, "Cannot switch to FTM mode");
+    return false;
+}
+
+// A failed clock is reported and passed over. The log is muted only while the phone restarts.
+uint8_t PhoneProcedures::Virtual_SIM(char* iSPC, uint8_t* piSPC_Result)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0
+        || !Step(
+            "QLIB_DIAG_SPC_F", "(iSPC = %s)", [&] { return QLIB_DIAG_SPC_F(hResourceContext, iSPC, piSPC_Result); },
+            ItemText<textAreaSize>(iSPC))
+        || !StepWithoutStart("TANDEKOR_ONLINE_TO_FTM", "()", [&] { return TANDEKOR_ONLINE_TO_FTM(hResourceContext); }))
+        return 0;
+
+    platform::Sleep(1000);
+    uint8_t isFtmMode = 0;
+    bool restartedSlowly = false;
+    QLIB_IsFTM_Mode(hResourceContext, &isFtmMode);
+    if (isFtmMode == 0 && !ForceFtmMode(&restartedSlowly))
+        return 0;
+    QLIB_SetLogFlags(hResourceContext, logNormal);
+
+    if (!CallStep("TANDEKOR_SpecialSetRtcActualTime", TANDEKOR_SpecialSetRtcActualTime, "()"))
+        StepTrace(STEP_FAILURE, "Cannot set actual time");
+    if (!StepWithoutStart("TANDEKOR_FTM_TO_ONLINE", "()", [&] { return TANDEKOR_FTM_TO_ONLINE(hResourceContext); }))
+        return 0;
+
+    platform::Sleep(3000);
+    if (restartedSlowly)
+        platform::Sleep(3000);
+    QLIB_SetLogFlags(hResourceContext, logMuted);
+    WaitForPhone();
+    QLIB_SetLogFlags(hResourceContext, logNormal);
+    return CallStep("TANDEKOR_SimSimulation", TANDEKOR_SimSimulation, "()");
+}
+
+bool PhoneProcedures::SimSimulation()
+{
+    constexpr uint8_t slot = 1;
+    constexpr uint8_t applicationIdSize = 16;
+    uint8_t applicationId[applicationIdSize] = {};
+    uint32_t commandStatus = 0;
+    uint32_t status = 0;
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0
+        || !Step(
+            "QLIB_GSDIDIAG_ACTIVATE_ONCHIP_SIM_CMD", "(iSlotId = %c, iSIM_AppIdLen = %c, piSIM_AppId = %s)",
+            [&]
+            {
+                return QLIB_GSDIDIAG_ACTIVATE_ONCHIP_SIM_CMD(hResourceContext, slot, applicationIdSize, applicationId,
+                                                             &commandStatus, &status);
+            },
+            slot, applicationIdSize, ItemText<applicationIdSize>(applicationId)))
+        return false;
+    if (status != 0)
+    {
+        StepTrace(STEP_FAILURE, "(_iStatus != 0)");
+        return false;
+    }
+    if (commandStatus != 0)
+    {
+        StepTrace(STEP_FAILURE, "(_iCommandStatus != 0)");
+        return false;
+    }
+    return true;
+}
+
+// --- clock
+
+// The phone gets Coordinated Universal Time. The time mode has no value of its own here and is sent as 0, which ends
+// the text of the result line.
+uint8_t PhoneProcedures::SpecialSetRtcActualTime()
+{
+    constexpr uint8_t write = 0;
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return 0;
+    const platform::UtcTime now = platform::CurrentUtcTime();
+    uint8_t iTimeMode = 0;
+    uint16_t iYear = now.year;
+    auto iMonth = static_cast<uint8_t>(now.month);
+    auto iDay = static_cast<uint8_t>(now.day);
+    auto iHour = static_cast<uint8_t>(now.hour);
+    auto iMinute = static_cast<uint8_t>(now.minute);
+    auto iSecond = static_cast<uint8_t>(now.second);
+    return Step(
+        "QLIB_FTM_PMIC_RTC_SET_GET_TIME",
+        "(iReadWrite = 0, iTimeMode = %c, iMonth = %c, iDay = %c, iYear = %c, iHour = %c, iMinute = %c, "
+        "iSecond = %c)",
+        [&]
+        {
+            return QLIB_FTM_PMIC_RTC_SET_GET_TIME(hResourceContext, write, &iTimeMode, &iMonth, &iDay, &iYear, &iHour,
+                                                  &iMinute, &iSecond);
+        },
+        iTimeMode, iMonth, iDay, iYear, iHour, iMinute, iSecond);
+}
+
+// --- network
+
+uint8_t PhoneProcedures::NetworkAndChannelPreselection(uint8_t eNetwMode, uint8_t eChannelMode, uint16_t uiChannel)
+{
+    const uint8_t cleared[longItemSize] = {};
+    return TANDEKOR_CheckConnection(hResourceContext) != 0
+           && Step(
+               "TANDEKOR_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %u, iLength = 128)",
+               [&] { return TANDEKOR_DIAG_NV_WRITE_F(hResourceContext, clearedItem, cleared, longItemSize); },
+               clearedItem, AddressOf{cleared})
+           && CallStep("TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE", TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE, "(eNetwMode = %c)",
+                       eNetwMode)
+           && CallStep("TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL", TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL,
+                       "(eNetwMode = %c, uiChannel = %d)", eChannelMode, uiChannel);
+}
+
+bool PhoneProcedures::NV_WRITE_NETWORK_SCAN_MODE(uint8_t eNetwMode)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const NetworkMode* mode = FindNetworkMode(eNetwMode);
+    return mode != nullptr && WriteItem(scanModeItem1, mode->scanMode1, sizeof mode->scanMode1)
+           && WriteItem(scanModeItem2, mode->scanMode2, sizeof mode->scanMode2)
+           && WriteItem(scanModeItem3, mode->scanMode3, sizeof mode->scanMode3);
+}
+
+bool PhoneProcedures::NV_WRITE_LAST_GOOD_CHANNEL(uint8_t eNetwMode, uint16_t uiChannel)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const NetworkMode* mode = FindNetworkMode(eNetwMode);
+    if (mode == nullptr)
+        return false;
+    uint8_t item[longItemSize] = {};
+    if (mode->hasChannel)
+    {
+        item[0] = 1;
+        item[1] = static_cast<uint8_t>(uiChannel);
+        item[2] = static_cast<uint8_t>(uiChannel >> 8);
+        item[3] = mode->channelKind;
+    }
+    return WriteItem(lastGoodChannelItem, item, longItemSize);
+}
+
+uint8_t PhoneProcedures::NV_SetRoamingListStatus(uint8_t bRoamingListOn)
+{
+    const uint8_t roaming[] = {0, static_cast<uint8_t>(bRoamingListOn == 1 ? 1 : 0)};
+    const uint8_t secondRoaming[] = {0x80, 0x00};
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && WriteItem(roamingItem, roaming, sizeof roaming)
+           && WriteItem(secondRoamingItem, secondRoaming, sizeof secondRoaming);
+}
+
+uint8_t PhoneProcedures::NVSetAutoAnswerStatus(uint8_t bAutoAnswerOn)
+{
+    const uint8_t autoAnswer = bAutoAnswerOn == 1 ? 1 : 0;
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && WriteItem(autoAnswerItem, &autoAnswer, 1);
+}
+
+}  // namespace tandekor

@@ -1,0 +1,140 @@
+// One measurement of the receiver for an application that adjusts it, and the NV functions of a WCDMA band.
+#include "frame/internal_functions.h"
+#include "platform/qmsl.h"
+#include "procedures/phone_procedures.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr uint16_t gsmRxRelOffsetsItem = 2499;
+constexpr int32_t gsmRxRelOffsetsSize = 128;
+constexpr int32_t offsetSize = 2;
+constexpr int32_t vsFreqSize = 16;
+
+struct WcdmaBand
+{
+    uint16_t eNvBand;
+    uint16_t vgaGainOffset;
+    uint16_t vgaGainVsFreq;
+    uint16_t fall[3];
+    uint16_t rise[3];
+};
+constexpr WcdmaBand wcdmaBands[] = {
+    {4, 856, 857, {520, 861, 862}, {519, 859, 860}},
+    {5, 1143, 1144, {1164, 1148, 1149}, {1163, 1146, 1147}},
+    {6, 1814, 1815, {1835, 1819, 1820}, {1834, 1817, 1818}},
+};
+
+// Null for a band that is not known.
+const WcdmaBand* FindBand(uint16_t eNvBand)
+{
+    for (const WcdmaBand& band : wcdmaBands)
+    {
+        if (band.eNvBand == eNvBand)
+            return &band;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+uint8_t PhoneProcedures::RX_GSM_Adjust(uint8_t* cBin3, uint16_t eNewMode, uint16_t iChannel, uint8_t iSlotNum,
+                                       int16_t iRxFunction, uint8_t iLNArange, void* piRSSI)
+{
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && ReadItem(gsmRxRelOffsetsItem, cBin3, gsmRxRelOffsetsSize)
+           && TxOff() && SetMode(eNewMode) && SetChannel(iChannel)
+           && CallStep("QLIB_FTM_SET_RX_BURST", QLIB_FTM_SET_RX_BURST, "(iSlotNum = %c, iRxFunction = %d)", iSlotNum,
+                       iRxFunction)
+           && SetLnaRange(iLNArange)
+           && Step("QLIB_FTM_GET_RSSI", "()", [&] { return QLIB_FTM_GET_RSSI(hResourceContext, piRSSI); });
+}
+
+// The two direct NV operations hand their status to the caller and go on whatever it is.
+uint8_t PhoneProcedures::RX_WCDMA_Adjust(uint8_t iLNArange, int16_t iDvgaExpectedRX_AGC, void* piDVGAoffsetValue,
+                                         uint16_t iWriteItemID, uint8_t* pWriteItemData, int32_t iWriteLength,
+                                         uint16_t* piWriteStatus, uint16_t eVgaNvBand, uint16_t iOffset,
+                                         uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1, uint8_t* piFall2,
+                                         uint8_t* piFall3, uint16_t iReadItemID, uint8_t* pReadItemData,
+                                         int32_t iReadLength, uint16_t* piReadStatus, uint16_t eRiseNvBand,
+                                         uint8_t* piRise1, uint8_t* piRise2, uint8_t* piRise3, uint16_t iLNAindex,
+                                         int16_t iLnaExpectedRX_AGC, int16_t* piLNAoffsetValue)
+{
+    const uint8_t firstOfTable = piVsFreq == nullptr ? uint8_t{0} : piVsFreq[0];
+    return TANDEKOR_CheckConnection(hResourceContext) != 0 && TxOff() && SetLnaRange(iLNArange)
+           && Step(
+               "QLIB_FTM_GET_DVGA_OFFSET", "(iExpectedRX_AGC = %d)",
+               [&] { return QLIB_FTM_GET_DVGA_OFFSET(hResourceContext, iDvgaExpectedRX_AGC, piDVGAoffsetValue); },
+               iDvgaExpectedRX_AGC)
+           && Step(
+               "QLIB_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %s, iLength = %i)",
+               [&] {
+                   return QLIB_DIAG_NV_WRITE_F(hResourceContext, iWriteItemID, pWriteItemData, iWriteLength,
+                                               piWriteStatus);
+               },
+               iWriteItemID, ItemText<textAreaSize>(pWriteItemData, iWriteLength), iWriteLength)
+           && Step(
+               "TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN", "(eNvBand = %d, iOffset = %d, piVsFreq = %c)",
+               [&] { return TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN(hResourceContext, eVgaNvBand, iOffset, piVsFreq); },
+               eVgaNvBand, iOffset, firstOfTable)
+           && Step(
+               "TANDEKOR_NV_READ_WCDMA_LNA_RANGE_FALL", "(eNvBand = %d, piFall1 = %d, piFall2 = %d, piFall3 = %d)",
+               [&] {
+                   return TANDEKOR_NV_READ_WCDMA_LNA_RANGE_FALL(hResourceContext, eFallNvBand, piFall1, piFall2,
+                                                                piFall3);
+               },
+               eFallNvBand, WordAt{piFall1}, WordAt{piFall2}, WordAt{piFall3})
+           && Step(
+               "QLIB_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %u, iLength = %i)",
+               [&]
+               { return QLIB_DIAG_NV_READ_F(hResourceContext, iReadItemID, pReadItemData, iReadLength, piReadStatus); },
+               iReadItemID, AddressOf{pReadItemData}, iReadLength)
+           && Step(
+               "TANDEKOR_NV_READ_WCDMA_LNA_RANGE_RISE", "(eNvBand = %d, piRise1 = %d, piRise2 = %d, piRise3 = %d)",
+               [&] {
+                   return TANDEKOR_NV_READ_WCDMA_LNA_RANGE_RISE(hResourceContext, eRiseNvBand, piRise1, piRise2,
+                                                                piRise3);
+               },
+               eRiseNvBand, WordAt{piRise1}, WordAt{piRise2}, WordAt{piRise3})
+           && Step(
+               "QLIB_FTM_GET_LNA_OFFSET", "(iLNAindex = %d , iExpectedRX_AGC = %d, piLNAoffsetValue = %d)",
+               [&]
+               { return QLIB_FTM_GET_LNA_OFFSET(hResourceContext, iLNAindex, iLnaExpectedRX_AGC, piLNAoffsetValue); },
+               iLNAindex, iLnaExpectedRX_AGC, *piLNAoffsetValue);
+}
+
+bool PhoneProcedures::NV_WRITE_WCDMA_VGA_GAIN(uint16_t eNvBand, uint16_t iOffset, const uint8_t* piVsFreq)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const WcdmaBand* band = FindBand(eNvBand);
+    if (band == nullptr)
+        return false;
+    const uint8_t offset[] = {static_cast<uint8_t>(iOffset), static_cast<uint8_t>(iOffset >> 8)};
+    return WriteItem(band->vgaGainOffset, offset, offsetSize)
+           && (piVsFreq == nullptr || WriteItem(band->vgaGainVsFreq, piVsFreq, vsFreqSize));
+}
+
+bool PhoneProcedures::NV_READ_WCDMA_LNA_RANGE_FALL(uint16_t eNvBand, uint8_t* piFall1, uint8_t* piFall2,
+                                                   uint8_t* piFall3)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const WcdmaBand* band = FindBand(eNvBand);
+    return band != nullptr && ReadItem(band->fall[0], piFall1, offsetSize)
+           && ReadItem(band->fall[1], piFall2, offsetSize) && ReadItem(band->fall[2], piFall3, offsetSize);
+}
+
+bool PhoneProcedures::NV_READ_WCDMA_LNA_RANGE_RISE(uint16_t eNvBand, uint8_t* piRise1, uint8_t* piRise2,
+                                                   uint8_t* piRise3)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const WcdmaBand* band = FindBand(eNvBand);
+    return band != nullptr && ReadItem(band->rise[0], piRise1, offsetSize)
+           && ReadItem(band->rise[1], piRise2, offsetSize) && ReadItem(band->rise[2], piRise3, offsetSize);
+}
+
+}  // namespace tandekor

@@ -1,0 +1,138 @@
+// The storing of a whole receiver calibration, in one batch of NV writes.
+#include "frame/internal_functions.h"
+#include "platform/qmsl.h"
+#include "procedures/phone_procedures.h"
+
+namespace tandekor
+{
+
+namespace
+{
+
+constexpr size_t shortRangeSize = 16;  // GSM 900 and 850
+constexpr size_t longRangeSize = 32;   // GSM 1900 and 1800
+constexpr size_t vsFreqSize = 16;
+constexpr int32_t offsetSize = 2;
+
+struct RangeItem
+{
+    uint16_t iItemID;
+    int32_t size;
+};
+// In the order of the pointers.
+constexpr RangeItem rangeItems[16] = {
+    {726, 16},  {727, 16},  {728, 16},  {729, 16},   // GSM 900
+    {1058, 32}, {1059, 32}, {1060, 32}, {1061, 32},  // GSM 1900
+    {730, 32},  {731, 32},  {732, 32},  {733, 32},   // GSM 1800
+    {1102, 16}, {1103, 16}, {1104, 16}, {1105, 16},  // GSM 850
+};
+
+struct LnaItems
+{
+    uint8_t eNvBand;
+    uint16_t offset[3];
+    uint16_t vsFreq[3];
+};
+constexpr LnaItems lnaBands[] = {
+    {4, {524, 865, 866}, {525, 867, 868}},
+    {5, {1168, 1152, 1153}, {1169, 1154, 1155}},
+    {6, {1839, 1823, 1824}, {1840, 1825, 1826}},
+};
+
+using ShortRange = ItemText<shortRangeSize>;
+using LongRange = ItemText<longRangeSize>;
+using VsFreq = ItemText<vsFreqSize>;
+
+}  // namespace
+
+// A failure in front of the flush leaves in the host library's queue what it has taken so far.
+uint8_t PhoneProcedures::Write_RX_Adjustment_Values(
+    uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2, uint8_t* Gsm900Range3, uint8_t* Gsm900Range4,
+    uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2, uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4,
+    uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2, uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4,
+    uint8_t* Gsm850Range1, uint8_t* Gsm850Range2, uint8_t* Gsm850Range3, uint8_t* Gsm850Range4, uint8_t eNvBand,
+    int16_t iOffset1, uint8_t* piVsFreq1, int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3,
+    uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq)
+{
+    return TANDEKOR_CheckConnection(hResourceContext) != 0
+           && CallStep("QLIB_DIAG_NV_WRITE_SetBatchMode", QLIB_DIAG_NV_WRITE_SetBatchMode, "(bStartBatchMode = %c)",
+                       bStartBatchMode)
+           && Step(
+               "TANDEKOR_NV_WRITE_GSM_RX_GAIN_RANGE",
+               "(Gsm900Range1 = %s, Gsm900Range2 = %s, Gsm900Range3 = %s, Gsm900Range4 = %s, "
+               "Gsm1900Range1 = %s, Gsm1900Range2 = %s, Gsm1900Range3 = %s, Gsm1900Range4 = %s, "
+               "Gsm1800Range1 = %s, Gsm1800Range2 = %s, Gsm1800Range3 = %s, Gsm1800Range4 = %s, "
+               "Gsm850Range1 = %s, Gsm850Range2 = %s, Gsm850Range3 = %s, Gsm850Range4 = %s)",
+               [&]
+               {
+                   return TANDEKOR_NV_WRITE_GSM_RX_GAIN_RANGE(
+                       hResourceContext, Gsm900Range1, Gsm900Range2, Gsm900Range3, Gsm900Range4, Gsm1900Range1,
+                       Gsm1900Range2, Gsm1900Range3, Gsm1900Range4, Gsm1800Range1, Gsm1800Range2, Gsm1800Range3,
+                       Gsm1800Range4, Gsm850Range1, Gsm850Range2, Gsm850Range3, Gsm850Range4);
+               },
+               ShortRange(Gsm900Range1), ShortRange(Gsm900Range2), ShortRange(Gsm900Range3), ShortRange(Gsm900Range4),
+               LongRange(Gsm1900Range1), LongRange(Gsm1900Range2), LongRange(Gsm1900Range3), LongRange(Gsm1900Range4),
+               LongRange(Gsm1800Range1), LongRange(Gsm1800Range2), LongRange(Gsm1800Range3), LongRange(Gsm1800Range4),
+               ShortRange(Gsm850Range1), ShortRange(Gsm850Range2), ShortRange(Gsm850Range3), ShortRange(Gsm850Range4))
+           && Step(
+               "TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET",
+               "(eNvBand = %c, iOffset1 = %d, piVsFreq1 = %s, iOffset2 = %d, piVsFreq2 = %s, iOffset3 = %d, "
+               "piVsFreq3 = %s)",
+               [&]
+               {
+                   return TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET(hResourceContext, eNvBand, iOffset1, piVsFreq1, iOffset2,
+                                                             piVsFreq2, iOffset3, piVsFreq3);
+               },
+               eNvBand, iOffset1, VsFreq(piVsFreq1), iOffset2, VsFreq(piVsFreq2), iOffset3, VsFreq(piVsFreq3))
+           && Step(
+               "TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN", "(eNvBand = %d, iOffset = %d, piVsFreq = %s)",
+               [&] { return TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN(hResourceContext, eVgaNvBand, iOffset, piVsFreq); },
+               eVgaNvBand, iOffset, VsFreq(piVsFreq))
+           && CallStep("TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE, "()");
+}
+
+bool PhoneProcedures::NV_WRITE_GSM_RX_GAIN_RANGE(uint8_t* Gsm900Range1, uint8_t* Gsm900Range2, uint8_t* Gsm900Range3,
+                                                 uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
+                                                 uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1,
+                                                 uint8_t* Gsm1800Range2, uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4,
+                                                 uint8_t* Gsm850Range1, uint8_t* Gsm850Range2, uint8_t* Gsm850Range3,
+                                                 uint8_t* Gsm850Range4)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const RangeItem* item = rangeItems;
+    for (const uint8_t* range : {Gsm900Range1, Gsm900Range2, Gsm900Range3, Gsm900Range4, Gsm1900Range1, Gsm1900Range2,
+                                 Gsm1900Range3, Gsm1900Range4, Gsm1800Range1, Gsm1800Range2, Gsm1800Range3,
+                                 Gsm1800Range4, Gsm850Range1, Gsm850Range2, Gsm850Range3, Gsm850Range4})
+    {
+        if (range != nullptr && !WriteItem(item->iItemID, range, item->size))
+            return false;
+        ++item;
+    }
+    return true;
+}
+
+bool PhoneProcedures::NV_WRITE_WCDMA_LNA_OFFSET(uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1, int16_t iOffset2,
+                                                uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3)
+{
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return false;
+    const int16_t offsets[] = {iOffset1, iOffset2, iOffset3};
+    const uint8_t* tables[] = {piVsFreq1, piVsFreq2, piVsFreq3};
+    for (const LnaItems& band : lnaBands)
+    {
+        if (band.eNvBand != eNvBand)
+            continue;
+        for (int i = 0; i < 3; ++i)
+        {
+            const uint8_t offset[] = {static_cast<uint8_t>(offsets[i]), static_cast<uint8_t>(offsets[i] >> 8)};
+            if (!WriteItem(band.offset[i], offset, offsetSize)
+                || (tables[i] != nullptr && !WriteItem(band.vsFreq[i], tables[i], vsFreqSize)))
+                return false;
+        }
+        return true;
+    }
+    return false;
+}
+
+}  // namespace tandekor
