@@ -1,6 +1,7 @@
-// The phone's AT side: queries give a setting, set commands change it.
+// The phone's AT side: what a command is, the settings, and the answers that are one line by TS 27.007.
+#include "simulator/at.h"
+
 #include <algorithm>
-#include <string>
 
 #include "simulator/operation.h"
 
@@ -10,76 +11,183 @@ namespace simulator
 namespace
 {
 
-constexpr char ok[] = "\r\nOK";
-constexpr char error[] = "\r\nERROR";
+std::string AnswerText(const AtCommand& command, const std::string& text)
+{
+    return command.kind == AtCommand::Kind::Execute ? Answer(text) : Refused(operationNotAllowed);
+}
 
-// Commands that only do something.
-constexpr const char* actions[] = {"", "+CHUP", "+CRMP", "+CHLD"};
+// Commands that are more than a setting.
+struct Special
+{
+    const char* name;
+    std::string (*answer)(const AtCommand& command);
+};
+constexpr Special specials[] = {
+    {"", [](const AtCommand&) { return Done(); }},
+    {"+CHLD", [](const AtCommand&) { return Done(); }},
+    {"+CHUP", [](const AtCommand&) { return Done(); }},
+    {"+CRMP", [](const AtCommand&) { return Done(); }},
+    {"^SMSO",
+     [](const AtCommand&)
+     {
+         PowerDown();
+         return Done();
+     }},
+    {"+CGMM", [](const AtCommand& command) { return AnswerText(command, ThePhone().buildModel); }},
+    {"+CGMR", [](const AtCommand& command) { return AnswerText(command, ThePhone().buildId); }},
+    {"+CGSN", [](const AtCommand& command) { return AnswerText(command, SerialNumber()); }},
+    {"+GSN", [](const AtCommand& command) { return AnswerText(command, SerialNumber()); }},
+    {"+CCLK", AnswerClock},
+    {"+CREG", AnswerRegistration},
+    {"+CCFC", AnswerForwarding},
+    {"+CCWA", AnswerCallWaiting},
+    {"+CKPD", PressKeys},
+    {"+CLCK", AnswerLock},
+    {"^SLCK", AnswerLock},
+    {"+CPIN", AnswerPin},
+    {"+CRSM", AnswerCardAccess},
+    {"+CMGL", ListMessages},
+    {"^SMGL", ListMessages},
+    {"+CMGR", ReadMessage},
+    {"^SMGR", ReadMessage},
+    {"+CMSS", SendMessage},
+};
 
-// Settings that are not answered to "<name>?" with "<name>: <value>".
+// Settings that are not answered to "<name>?" with "<name>: <value>". Those that the bare command asks for
+// cannot be set, and neither can lists.
 struct Form
 {
     const char* name;
-    const char* query;
+    AtCommand::Kind asked;
     const char* prefix;
 };
 constexpr Form forms[] = {
-    {"+CPAS", "+CPAS", "+CPAS: "},
-    {"+WS46", "+WS46?", ""},
-    {"^SICO", "^SICO?", "^SICO: 0, "},
+    {"+CBC", AtCommand::Kind::Execute, "+CBC: "},   {"+CEER", AtCommand::Kind::Execute, "+CEER: "},
+    {"+CGMI", AtCommand::Kind::Execute, ""},        {"+CIMI", AtCommand::Kind::Execute, ""},
+    {"+CPAS", AtCommand::Kind::Execute, "+CPAS: "}, {"+CSQ", AtCommand::Kind::Execute, "+CSQ: "},
+    {"+WS46", AtCommand::Kind::Read, ""},           {"^SCID", AtCommand::Kind::Execute, "^SCID: "},
+    {"^SICO", AtCommand::Kind::Read, "^SICO: 0, "}, {"^SIFS", AtCommand::Kind::Execute, "^SIFS: "},
 };
 
-std::string AnswerToQuery(const std::string& line) { return "\r\n" + line + "\r\n" + ok; }
-
-// A set command that gives the first of several values leaves the others as they are.
-void Keep(std::string& setting, const std::string& value)
+AtCommand CommandOf(const std::string& text)
 {
-    const size_t comma = value.find(',') == std::string::npos ? setting.find(',') : std::string::npos;
-    setting = value + (comma == std::string::npos ? "" : setting.substr(comma));
+    const std::string name = text.substr(0, text.find_first_of("?="));
+    const std::string rest = text.substr(name.size());
+    if (rest.empty())
+        return {name, AtCommand::Kind::Execute, ""};
+    if (rest == "?")
+        return {name, AtCommand::Kind::Read, ""};
+    if (rest.front() == '=' && rest != "=?")
+        return {name, AtCommand::Kind::Set, rest.substr(1)};
+    return {name, AtCommand::Kind::Other, ""};
 }
 
-// The result of the command, which is what stands behind the letters AT.
-std::string ResultOf(const std::string& command)
+// Fields that are left out, empty or behind the last one, keep their values; and a text keeps its quotes.
+void Keep(std::string& setting, const std::string& value)
 {
-    Phone& phone = ThePhone();
-    if (command == "E0" || command == "E1")
+    std::vector<std::string> fields = FieldsOf(setting);
+    const std::vector<std::string> given = FieldsOf(value);
+    for (size_t i = 0; i < given.size(); ++i)
     {
-        phone.atEcho = command == "E1";
-        return ok;
+        if (given[i].empty())
+            continue;
+        if (i >= fields.size())
+            fields.resize(i + 1);
+        const bool text = fields[i].starts_with('"');
+        fields[i] = text ? Quoted(Unquoted(given[i])) : Unquoted(given[i]);
     }
-    if (command == "^SQWE=3")
+    setting.clear();
+    for (const std::string& field : fields)
+        setting += (setting.empty() ? "" : ",") + field;
+}
+
+// What the phone says behind its echo.
+std::string ResultOf(const std::string& text)
+{
+    if (text == "E0" || text == "E1")
     {
-        phone.obexMode = true;
-        return ok;
+        ThePhone().atEcho = text == "E1";
+        return Done();
     }
-    const std::string name = command.substr(0, command.find_first_of("?="));
-    const std::string rest = command.substr(name.size());
-    if (std::ranges::find(actions, name) != std::end(actions))
-        return ok;
-    const auto setting = phone.atSettings.find(name);
-    if (setting == phone.atSettings.end())
-        return error;
-    const auto* form = std::ranges::find(forms, name, &Form::name);
-    if (form != std::end(forms) && command == form->query)
-        return AnswerToQuery(form->prefix + setting->second);
-    if (form == std::end(forms) && rest == "?")
-        return AnswerToQuery(name + ": " + setting->second);
-    if (rest.starts_with('=') && rest != "=?")
-        Keep(setting->second, rest.substr(1));
-    else if (!rest.empty())
-        return error;
-    return ok;
+    if (text == "^SQWE=3")
+    {
+        ThePhone().obexMode = true;
+        return Done();
+    }
+    const AtCommand command = CommandOf(text);
+    const auto* special = std::ranges::find(specials, command.name, &Special::name);
+    return special != std::end(specials) ? special->answer(command) : AnswerSetting(command);
 }
 
 }  // namespace
+
+std::string Done() { return "\r\nOK"; }
+
+std::string Answer(const std::string& lines) { return "\r\n" + lines + "\r\n" + Done(); }
+
+std::string Refused(int number, const char* kind)
+{
+    if (ThePhone().atSettings["+CMEE"] == "0")
+        return "\r\nERROR";
+    return std::string("\r\n") + kind + " ERROR: " + std::to_string(number);
+}
+
+std::vector<std::string> FieldsOf(const std::string& text)
+{
+    std::vector<std::string> fields(1);
+    bool quoted = false;
+    for (const char character : text)
+    {
+        quoted ^= character == '"';
+        if (character == ',' && !quoted)
+            fields.emplace_back();
+        else
+            fields.back() += character;
+    }
+    return fields;
+}
+
+std::string FieldAt(const std::vector<std::string>& fields, size_t index, const char* missing)
+{
+    return index < fields.size() && !fields[index].empty() ? fields[index] : missing;
+}
+
+std::string Quoted(const std::string& text) { return '"' + text + '"'; }
+
+std::string Unquoted(const std::string& field)
+{
+    const bool quoted = field.size() >= 2 && field.front() == '"' && field.back() == '"';
+    return quoted ? field.substr(1, field.size() - 2) : field;
+}
+
+std::string AnswerSetting(const AtCommand& command)
+{
+    auto& settings = ThePhone().atSettings;
+    const auto setting = settings.find(command.name);
+    const auto* form = std::ranges::find(forms, command.name, &Form::name);
+    const bool formed = form != std::end(forms);
+    if (setting == settings.end() || command.kind == AtCommand::Kind::Other)
+        return Refused(operationNotAllowed);
+    const bool list = setting->second.find('\r') != std::string::npos;
+    if (command.kind == (formed ? form->asked : AtCommand::Kind::Read))
+        return Answer((formed ? form->prefix : command.name + ": ") + setting->second);
+    if (list || (formed && form->asked == AtCommand::Kind::Execute))
+        return Refused(operationNotAllowed);
+    if (command.Sets())
+        Keep(setting->second, command.value);
+    return Done();
+}
 
 std::map<std::string, std::string> FreshAtSettings()
 {
     return {
         // Call and sound
+        {"+CACM", "\"000123\""},
         {"+CALM", "0"},
+        {"+CAMM", "\"070000\""},
         {"+CAOC", "1"},
         {"+CCWA", "0"},
+        {"+CEER", "Normal call clearing"},
         {"+CLIP", "0"},
         {"+CLVL", "4"},
         {"+CMUT", "0"},
@@ -88,45 +196,51 @@ std::map<std::string, std::string> FreshAtSettings()
         {"+CRSL", "3"},
         {"+CSSN", "0,0"},
         {"+CVIB", "1"},
-        {"^SACM", "0,\"000000\",\"000000\""},
+        {"^SACM", "0,\"000123\",\"000200\""},
         {"^SNFS", "1"},
         {"^SNFV", "3"},
         {"^SRMP", "1,1"},
         // Network and data
         {"+CBST", "7,0,1"},
+        {"+CGACT", "1,1\r\n+CGACT: 2,0"},
         {"+CGATT", "1"},
         {"+CGEREP", "0,0"},
         {"+CGREG", "0,1"},
+        {"+COPS", "0,0,\"SIMULATED NET\""},
         {"+CR", "0"},
         {"+CREG", "0,1"},
+        {"+CSCA", "\"+491722270000\",145"},
+        {"+CSCB", "0,\"0,50,320-324\",\"0-3\""},
+        {"+CSQ", "21,0"},
         {"+CTZR", "0"},
         {"+CTZU", "1"},
         {"+IPR", "115200"},
         {"+WS46", "12"},
         // The phone itself
+        {"+CBC", "0,85"},
+        {"+CGMI", "SIMULATED"},
+        {"+CIMI", "262019876543210"},
+        {"+CIND", "4,3,1,0,0,0,1,0"},
         {"+CMEC", "0"},
         {"+CMEE", "0"},
+        {"+CMER", "0,0,0,0,0"},
+        {"+CSCS", "\"GSM\""},
+        {"^SCID", "89490200001234567890"},
         {"^SCKA", "1"},
         {"^SCKS", "0, 1"},
         {"^SICO", "0"},
+        {"^SIFS", "Wire"},
         {"^SKPD", "0"},
         {"^SLNG", "1"},
-        {"^SMSO", "0"},
     };
 }
 
 // Echo, and a result without anything behind its last word. A request that is no whole command gets no answer.
 Bytes AnswerAt(const Bytes& request)
 {
-    Phone& phone = ThePhone();
+    const Phone& phone = ThePhone();
     if (phone.obexMode)
-    {
-        if (request == Bytes{'+', '+', '+', 0})
-            phone.obexMode = false;
-        else
-            ReportNotSimulated("OBEX");
-        return {};
-    }
+        return AnswerObex(request);
     const std::string text(request.begin(), std::ranges::find(request, uint8_t{'\r'}));
     if (!text.starts_with("AT") || text.size() == request.size())
         return {};

@@ -32,6 +32,42 @@ enum class Mode : uint8_t
 // What a fresh phone answers to AT queries.
 std::map<std::string, std::string> FreshAtSettings();
 
+// A file or folder on the phone.
+struct SimulatedFile
+{
+    bool folder = false;
+    Bytes content = {};
+    std::string time = "20070315T100000";  // of the last change, as a Put told it
+    // Both permission texts. The first one binds the file server: R is needed to get and copy the file, W to put
+    // another in its place, D to delete and move it.
+    std::string permissions = "\"RWD\"\"R\"";
+};
+
+// The files of a fresh phone.
+std::map<std::string, SimulatedFile> FreshFiles();
+
+// A short message in the phone's store.
+struct SimulatedMessage
+{
+    char stat;        // '0' received and unread, '1' read, '2' stored and unsent, '3' sent
+    std::string pdu;  // as hexadecimal digits, with the service centre's address in front
+};
+
+// The SIM card.
+struct SimCard
+{
+    std::string pin = "1234";  // and the password of all facility locks
+    std::string puk = "12345678";
+    bool waitsForPin = false;
+    int attemptsLeft = 3;  // at the PIN; with none left the PUK is wanted
+    // Hexadecimal digits by number of the file.
+    std::map<uint16_t, std::string> files
+        = {{12258, "98942000002143658709"}, {28423, "082926108967452301"}, {28589, "00000002"}};
+};
+
+// The messages of a fresh phone: one unread, one unsent.
+std::map<uint32_t, SimulatedMessage> FreshMessages();
+
 // Made fresh it is a phone of model 52, on and online.
 struct Phone
 {
@@ -62,6 +98,21 @@ struct Phone
     uint8_t fuelGaugeVersion = 3;
     // Value text by command name, as in {"+CMUT", "0"}. A command whose name is not here is answered with ERROR.
     std::map<std::string, std::string> atSettings = FreshAtSettings();
+    int64_t clockAhead = 0;                         // seconds by which its clock (+CCLK) is ahead of the calendar
+    int clockZone = 0;                              // quarters of an hour
+    SimCard card;
+    std::map<std::string, bool> locks = {{"AO", false}, {"AI", false}, {"PN", false}, {"SC", false}};  // by facility
+    // By reason, 0 to 5: state, class, and where a number is registered number, type and time.
+    std::map<std::string, std::string> forwardings;
+    bool callWaiting = false;
+    std::string pressedKeys;  // by +CKPD so far
+    std::map<uint32_t, SimulatedMessage> messages = FreshMessages();  // by place
+    // The file server, on the port in OBEX mode. Files and folders by path, as in "Pictures/Holiday/beach.jpg".
+    std::map<std::string, SimulatedFile> files = FreshFiles();
+    uint32_t storageSize = 16 * 1024 * 1024;      // what no file takes up is free
+    bool announcesLength = true;                  // the first reply to a Get has a Length header
+    std::map<uint8_t, uint8_t> obexResponses;     // response code by operation byte, where it is not carried out
+    std::function<Bytes(const Bytes&)> obexPeer;  // answers the packets in the place of the phone's own server
 };
 
 // The phone as it stands at this moment, to look at and to change. The reference stays good, but what time does to the

@@ -39,6 +39,7 @@ void StartPhone()
     state.phone.on = true;
     state.phone.mode = ftm ? Mode::Ftm : Mode::Online;
     state.phone.obexMode = false;
+    state.obexSession.open = false;
     state.starting.emplace(state.phone.startTimeMs);
 }
 

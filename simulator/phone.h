@@ -15,8 +15,10 @@ void StartPhone();
 // Off at once, until the supply is switched on anew.
 void PowerDown();
 
-// The answer to a request on the AT port or to a diagnostic request; empty when the phone stays silent.
+// The answer to a request on the port, in AT or OBEX mode, or to a diagnostic request; empty when the phone stays
+// silent.
 Bytes AnswerAt(const Bytes& request);
+Bytes AnswerObex(const Bytes& request);
 Bytes AnswerDiagnostic(const Bytes& request);
 
 }  // namespace simulator

@@ -16,9 +16,33 @@
 namespace simulator
 {
 
+// The session of the file server, and the transfers that run in it.
+struct ObexSession
+{
+    bool open = false;
+    uint32_t connectionId = 0;  // of this session, or of the last one
+    size_t mostReplyBytes = 0;  // as the connect announced it
+    std::string folder = {};    // path of the current folder with a slash behind it; empty for the root
+    struct Get
+    {
+        Bytes object;
+        size_t sent = 0;
+        bool begun = false;
+    };
+    std::optional<Get> get = {};
+    struct Put
+    {
+        std::string path;
+        SimulatedFile file;
+        size_t announced = 0;
+    };
+    std::optional<Put> put = {};
+};
+
 struct PhoneState
 {
     Phone phone;
+    ObexSession obexSession;
     bool supplied = false;
     std::optional<tandekor::platform::TimeLimit> starting;   // runs until the phone answers
     std::optional<tandekor::platform::TimeLimit> runningOn;  // runs until the phone is off, with its supply dropped

@@ -492,6 +492,14 @@ uint8_t TANDEKOR_AT_Set_CCFC(ResourceContext hResourceContext, uint8_t iReason, 
     return Forward(At(hResourceContext), &AtChannel::Set_CCFC, iReason, iMode, sNumber, iType, iClass, iTime, pStatus);
 }
 
+uint8_t TANDEKOR_AT_Get_CCFC(ResourceContext hResourceContext, uint8_t iReason, uint32_t* aiState, uint32_t* aiClass,
+                             char (*asNumber)[12], uint32_t* aiType, uint32_t* aiTime, uint32_t* piCount,
+                             uint16_t* pStatus)
+{
+    return Forward(At(hResourceContext), &AtChannel::Get_CCFC, iReason, aiState, aiClass, asNumber, aiType, aiTime,
+                   piCount, pStatus);
+}
+
 uint8_t TANDEKOR_AT_Set_CCWA(ResourceContext hResourceContext, uint8_t iN, uint8_t iMode, int32_t iClass,
                              uint32_t* aiState, uint32_t* aiClasses, uint32_t* piCount, uint16_t* pStatus)
 {
@@ -536,6 +544,22 @@ uint8_t TANDEKOR_AT_CRSM(ResourceContext hResourceContext, uint8_t iCommand, int
 {
     return Forward(At(hResourceContext), &AtChannel::CRSM, iCommand, iFileId, iP1, iP2, iP3, pData, piSw1, piSw2,
                    sResponse, pStatus);
+}
+
+uint8_t TANDEKOR_AT_CMGL(ResourceContext hResourceContext, uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat,
+                         uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024], uint32_t* piCount,
+                         uint16_t* pStatus)
+{
+    return Forward(At(hResourceContext), &AtChannel::CMGL, iFilter, aiIndex, aiStat, aiAlpha, aiLength, asData, piCount,
+                   pStatus);
+}
+
+uint8_t TANDEKOR_AT_SMGL(ResourceContext hResourceContext, uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat,
+                         uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024], uint32_t* piCount,
+                         uint16_t* pStatus)
+{
+    return Forward(At(hResourceContext), &AtChannel::SMGL, iFilter, aiIndex, aiStat, aiAlpha, aiLength, asData, piCount,
+                   pStatus);
 }
 
 uint8_t TANDEKOR_AT_Set_CMGR(ResourceContext hResourceContext, uint16_t iIndex, uint16_t iMaxLength, uint16_t* piLength,
