@@ -8,11 +8,12 @@
  * line among them. Look at both: after an ERROR the out-values hold what happens to stand in the reply at their places.
  * After a failed exchange no argument is written, *pStatus included.
  *
- * Values are read at fixed places of the reply, which are right for a phone that echoes commands, and for one without
- * echo where the echo would take nine bytes (as that of AT+CMUT? does). A reply that is too short for a value reads as
- * the digit 0 (the character 0xBB where characters are handed over).
+ * Let the phone echo commands (ATE1): values are read at fixed places of the reply, counted with the echo. Without it
+ * the places are right only where they are counted from the front and the echo would take nine bytes, as that of
+ * AT+CMUT? does; what is read from the reply's end is then missed. TANDEKOR_AT_CRSM alone wants no echo. A reply that
+ * is too short for a value reads as the digit 0 (the character 0xBB where characters are handed over).
  *
- * In the QPST library mode every function gives 0 and sends nothing. The log gets one line a call, at its start.
+ * In the QPST library mode every function gives 0 and sends nothing. The log gets one text a call, at its start.
  */
 #ifndef TANDEKOR_AT_H
 #define TANDEKOR_AT_H
@@ -167,7 +168,7 @@ extern "C"
 
     /*
      * Reports of the SIM reader (^SCKS): *piSecond is the last digit, *piFirst the character three places in front
-     * of it less 0x30, whether it is a digit or not.
+     * of it less 0x30, whether it is a digit or not (it stays if the reply has no such place).
      */
     TANDEKOR_API uint8_t TANDEKOR_AT_Get_SCKS(ResourceContext hResourceContext, uint32_t* piFirst, uint32_t* piSecond,
                                               uint16_t* pStatus);
@@ -242,8 +243,9 @@ extern "C"
                                              uint16_t* pStatus);
 
     /*
-     * Network registration (+CREG): reporting, state, and the first two characters of location area and cell. pLac,
-     * pCi: out, 2 bytes each, no NUL; without these fields the first byte is '-' and the second stays.
+     * Network registration (+CREG): reporting, state, and two characters each of location area and cell, read at
+     * fixed places, which are right for bare fields of two characters. pLac, pCi: out, 2 bytes each, no NUL; without
+     * these fields the first byte is '-' and the second stays.
      */
     TANDEKOR_API uint8_t TANDEKOR_AT_Get_CREG(ResourceContext hResourceContext, uint8_t* piN, uint8_t* piStat,
                                               uint8_t* pLac, uint8_t* pCi, uint16_t* pStatus);
@@ -335,9 +337,9 @@ extern "C"
                                               uint16_t iPause, uint16_t* pStatus);
 
     /*
-     * Facility locks (+CLCK, and ^SLCK of the phone maker), up to 40 seconds: two characters of the facility, mode
-     * as one digit, and unless the mode is 2 the password, four bytes of the values 0 to 9 (left out if the first is
-     * 45, the hyphen), and with it the class, 0 to 999.
+     * Facility locks (+CLCK, and ^SLCK of the phone maker), up to 40 seconds: two characters of the facility (a
+     * shorter text is sent as it is), mode as one digit, and unless the mode is 2 the password, four bytes of the
+     * values 0 to 9 (left out if the first is 45, the hyphen), and with it the class, 0 to 999.
      */
     TANDEKOR_API uint8_t TANDEKOR_AT_Set_CLCK(ResourceContext hResourceContext, const char* sFac, uint8_t iMode,
                                               const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus);
@@ -357,7 +359,9 @@ extern "C"
     /* Which code the phone waits for (+CPIN). sCode: out, 16 bytes, NUL included. */
     TANDEKOR_API uint8_t TANDEKOR_AT_Get_CPIN(ResourceContext hResourceContext, char* sCode, uint16_t* pStatus);
 
-    /* Gives a code (+CPIN), a text of digits, and a new one of four characters unless it is left out. */
+    /*
+     * Gives a code (+CPIN), a text of digits, and a new one of which four characters are sent unless it is left out.
+     */
     TANDEKOR_API uint8_t TANDEKOR_AT_Set_CPIN(ResourceContext hResourceContext, const char* sPin, const char* sNewPin,
                                               uint16_t* pStatus);
 
@@ -373,8 +377,8 @@ extern "C"
     /*
      * State of call forwarding, up to 10 seconds. Nothing is written unless *pStatus is 0. *piCount: out, how many
      * entries there are. asNumber: rows of 12 bytes without a NUL, at most the first 12 characters of a number; a
-     * number in double quotes counts as missing. A line that ends in front of its last field is the last entry. The
-     * arrays need an entry for each line; 600 entries hold any reply.
+     * number in double quotes counts as missing. A line end behind any field ends the list, so a reply with a line
+     * for each class gives the first alone. The arrays need an entry for each line; 600 entries hold any reply.
      */
     TANDEKOR_API uint8_t TANDEKOR_AT_Get_CCFC(ResourceContext hResourceContext, uint8_t iReason, uint32_t* aiState,
                                               uint32_t* aiClass, char (*asNumber)[12], uint32_t* aiType,
@@ -426,9 +430,10 @@ extern "C"
 
     /*
      * Restricted SIM access (+CRSM): command as three digits, file identifier as a whole number, one digit each of
-     * the three parameters, and behind a comma bytes of the values 1 to 9 up to a NUL; each may be left out with
-     * those behind it, the three parameters together. Out: the two status words of the card, and the card's answer
-     * with the closing quote, without a NUL; sResponse: 4096 bytes hold any reply.
+     * the three parameters, and behind a comma, if there are any, bytes of the values 1 to 9 up to a NUL; each may
+     * be left out with those behind it, the three parameters together. Out: the two status words of the card, and
+     * the card's answer with the closing quote, all looked for from place 16 on, which lies inside an echo, without
+     * a NUL; sResponse: 4096 bytes hold any reply.
      */
     TANDEKOR_API uint8_t TANDEKOR_AT_CRSM(ResourceContext hResourceContext, uint8_t iCommand, int32_t iFileId,
                                           int32_t iP1, int32_t iP2, int32_t iP3, const uint8_t* pData, uint32_t* piSw1,
@@ -451,10 +456,11 @@ extern "C"
 
     /*
      * Reads a message (+CMGR, and ^SMGR of the phone maker) at the place iIndex; above 100 no place is sent. The
-     * reply is read even if the exchange failed, if it ends in K. Out: the state as a character, the length that the
-     * reply states, and the text, cut so that it fits iMaxLength bytes or that length with its NUL. sData: out, at
-     * least iMaxLength bytes, and never less than 1. An unreadable reply gives the state '5', length 0 and an empty
-     * text.
+     * reply is read, also after a failed exchange, if it ends in K or k; else nothing is written. Out: the state as
+     * a character, the length that the reply states, and the text from the fifth place behind the first comma on
+     * (for a length of two digits it begins with the line end), cut so that it fits iMaxLength bytes or that length
+     * with its NUL, which stands earlier if the reply does. sData: out, at least iMaxLength bytes, and never less
+     * than 1. A reply without a comma gives the state '5', length 0 and an empty text.
      */
     TANDEKOR_API uint8_t TANDEKOR_AT_Set_CMGR(ResourceContext hResourceContext, uint16_t iIndex, uint16_t iMaxLength,
                                               uint16_t* piLength, uint8_t* piStat, char* sData, uint16_t* pStatus);

@@ -2,10 +2,10 @@
  * The phone maker's factory requests.
  *
  * Each function sends one request (a few send two) and waits up to 3 seconds for the reply unless it says more. A
- * missing reply and a status word other than 0 give 0; the log tells them apart: "SendSync() fail (error code = ...)"
- * or "error code = ...". Out-values are written before the status word is looked at, so they may have changed although
- * the result is 0. A reply too short for a value leaves that value alone, and one too short for a status word counts as
- * success. Replies are not checked for the request that they answer.
+ * missing reply and a status word other than 0 give 0; for most functions the log tells them apart: "SendSync() fail
+ * (error code = ...)" or "error code = ...". Out-values are written before the status word is looked at, so they may
+ * have changed although the result is 0. A reply too short for a value leaves that value alone, and one too short for a
+ * status word counts as success. Replies are not checked for the request that they answer.
  */
 #ifndef TANDEKOR_FTM_H
 #define TANDEKOR_FTM_H
@@ -86,7 +86,8 @@ extern "C"
 
     /*
      * Starts the real-time clock with the time iTime. *bStatus: in, sent with the request; out, the phone's status,
-     * which decides (0 is success). The time that the phone answers is shown in the log only.
+     * which decides (0 is success); a reply that is too short for it leaves it alone, and then the value sent
+     * decides. The time that the phone answers is shown in the log only.
      */
     TANDEKOR_API uint8_t TANDEKOR_FTM_RTC_START(ResourceContext hResourceContext, uint8_t* bStatus, uint16_t iTime);
 
@@ -141,7 +142,8 @@ extern "C"
 
     /*
      * Reads the fuel gauge register eNum. *sStatus and *iValue: in, sent with the request; out, the phone's status (0
-     * is success) and value, both written also when the status is not 0.
+     * is success) and value, both written also when the status is not 0; a reply too short for the status leaves it
+     * alone, and then the value sent decides.
      */
     TANDEKOR_API uint8_t TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum, uint8_t* sStatus,
                                                   uint16_t* iValue);
@@ -207,7 +209,8 @@ extern "C"
     /* The identifier of the radio chip; the value before the call is shown in the log. */
     TANDEKOR_API uint8_t TANDEKOR_FTM_GET_FM_RADIO_ID(ResourceContext hResourceContext, uint16_t* iChip_Id);
 
-    /* Tunes the radio. *piStatusWord: out, the phone's status, also after a failure; 0 and 3 are success. */
+    /* Tunes the radio. *piStatusWord: out, the last word of whatever arrived, also after a missing reply; 0 and 3 are
+     * success. */
     TANDEKOR_API uint8_t TANDEKOR_FTM_TUNE_FM_RADIO(ResourceContext hResourceContext, uint16_t iChannel,
                                                     uint16_t* piStatusWord);
 

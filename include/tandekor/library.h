@@ -12,9 +12,10 @@ extern "C"
     /*
      * Connect to the phone on a COM port or a logical port of the host library. Gives the handle for all further
      * calls, or 0 if the host library is not of the supported version (it is then not asked to connect), refuses the
-     * connection, or memory is short. Nothing is logged. A second connect to the same phone gives the same handle and
-     * counts one use more; the connection stays until it was disconnected as often.
-     * iWaitMs is how long the host library may wait for the phone, in milliseconds.
+     * connection, or memory for it is short. Where memory lacks for one family of functions only, the handle is good
+     * and that family gives 0. Nothing is logged. A second connect to the same phone gives the same handle and counts
+     * one use more; the connection stays until it was disconnected as often. iWaitMs is how long the host library may
+     * wait for the phone, in milliseconds.
      */
     TANDEKOR_API ResourceContext TANDEKOR_ConnectServer(uint32_t iComPort);
     TANDEKOR_API ResourceContext TANDEKOR_ConnectServerWithWait(uint32_t iComPort, uint32_t iWaitMs);

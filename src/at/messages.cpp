@@ -58,11 +58,10 @@ uint8_t AtChannel::ListMessages(const char* name, const char* command, char mark
     if (!SendCommand(pStatus))
         return 0;
 
-    ReplyCursor reply = CursorAt(0);
+    ReplyCursor reply = CursorAt(1);  // a line end at position 0 does not count
     uint32_t count = 0;
     for (;; ++count)
     {
-        reply.Skip();
         reply.GoTo('\n');
         reply.Skip();
         if (reply.Current() != static_cast<uint8_t>(marker))

@@ -366,7 +366,7 @@ uint8_t AtChannel::CRSM(uint8_t iCommand, int32_t iFileId, int32_t iP1, int32_t 
             AddCommaAndFirstDigit(static_cast<uint32_t>(iP1));
             AddCommaAndFirstDigit(static_cast<uint32_t>(iP2));
             AddCommaAndFirstDigit(static_cast<uint32_t>(iP3));
-            if (!IsAbsent(pData))
+            if (!IsAbsent(pData) && pData[0] != 0)
             {
                 AddCharacter(',');
                 AddByteDigits(pData);

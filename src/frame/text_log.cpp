@@ -15,7 +15,10 @@ FormattedText::FormattedText(const char* format, ...)
     va_end(values);
 }
 
-FormattedText::FormattedText(const char* format, va_list values) { std::vsnprintf(text, sizeof text, format, values); }
+FormattedText::FormattedText(FromList, const char* format, va_list values)
+{
+    std::vsnprintf(text, sizeof text, format, values);
+}
 
 void WriteToLog(ResourceContext hResourceContext, const char* text)
 {
@@ -26,7 +29,7 @@ void Trace(ResourceContext hResourceContext, const char* format, ...)
 {
     va_list values;
     va_start(values, format);
-    const FormattedText text(format, values);
+    const FormattedText text = FormattedText::Of(format, values);
     va_end(values);
     WriteToLog(hResourceContext, text.Text());
 }

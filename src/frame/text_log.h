@@ -18,11 +18,17 @@ class FormattedText
 {
 public:
     explicit FormattedText(const char* format, ...) __attribute__((format(printf, 2, 3)));
-    FormattedText(const char* format, va_list values);
+    // The same from a list of values.
+    static FormattedText Of(const char* format, va_list values) { return {FromList{}, format, values}; }
 
     const char* Text() const { return text; }
 
 private:
+    struct FromList
+    {
+    };
+    FormattedText(FromList, const char* format, va_list values);
+
     char text[textAreaSize];
 };
 

@@ -16,9 +16,11 @@ enum class SerialLine
     Rts
 };
 
-// Opens the port for this process alone; the lines are not touched on purpose, but a driver may raise both.
+// Opens the port for this process alone (elsewhere than on Windows, a process that holds it already without a lock is
+// not seen); the lines are not touched on purpose, but a driver may raise both.
 // Windows: the device "COM<number>". POSIX: /dev/com<number> where it exists, which is how a USB adapter gets a number
-// (a link, made by hand or by a udev rule: /dev/com5 -> ttyUSB0), else the on-board port /dev/ttyS<number - 1>.
+// (a link, made by hand or by a udev rule: /dev/com5 -> ttyUSB0), also when it cannot be opened; else the on-board port
+// /dev/ttyS<number - 1>.
 SerialHandle OpenSerialPort(uint16_t portNumber);
 
 // Sets 115200 baud, 8 data bits, no parity, no flow control, and lets the lines be driven one by one.

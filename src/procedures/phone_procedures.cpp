@@ -10,7 +10,7 @@ bool PhoneProcedures::StepTrace(uint8_t iLevel, const char* sFormat, ...)
 {
     va_list values;
     va_start(values, sFormat);
-    const FormattedText text(sFormat, values);
+    const FormattedText text = FormattedText::Of(sFormat, values);
     va_end(values);
     if (iLevel == STEP_SUCCESS)
         Trace(hResourceContext, "\t%s - Completed successfully\n", text.Text());

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
+#include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -16,13 +17,23 @@ namespace
 
 int Native(SerialHandle port) { return static_cast<int>(port); }
 
-int OpenDevice(const char* format, int number)
+class DeviceName
 {
-    char name[32];
-    std::snprintf(name, sizeof name, format, number);
+public:
+    DeviceName(const char* format, int number) { std::snprintf(name, sizeof name, format, number); }
+
+    // Also for a link that leads nowhere.
+    bool Exists() const
+    {
+        struct stat status = {};
+        return ::lstat(name, &status) == 0;
+    }
     // Without O_NONBLOCK the open would wait for a carrier that a boot box never gives.
-    return ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-}
+    int Open() const { return ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); }
+
+private:
+    char name[32];
+};
 
 // TIOCEXCL keeps out the processes that open the device later, except those of root; the lock keeps out those too.
 bool ClaimForThisProcess(int port) { return ::flock(port, LOCK_EX | LOCK_NB) == 0 && ::ioctl(port, TIOCEXCL) == 0; }
@@ -31,9 +42,9 @@ bool ClaimForThisProcess(int port) { return ::flock(port, LOCK_EX | LOCK_NB) == 
 
 SerialHandle OpenSerialPort(uint16_t portNumber)
 {
-    int port = OpenDevice("/dev/com%d", portNumber);
-    if (port < 0 && portNumber > 0)
-        port = OpenDevice("/dev/ttyS%d", portNumber - 1);
+    // A link that is there decides, also when it cannot be opened: another device must not be driven in its place.
+    const DeviceName linked("/dev/com%d", portNumber);
+    const int port = linked.Exists() ? linked.Open() : DeviceName("/dev/ttyS%d", portNumber - 1).Open();
     if (port < 0)
         return invalidSerialHandle;
     if (!ClaimForThisProcess(port))
