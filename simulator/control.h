@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "simulator/phone_parts.h"
 #include "tandekor/common.h"
 
 namespace simulator
@@ -96,6 +97,19 @@ struct Phone
     uint16_t hardwareId = 0;              // factory request 29
     uint16_t nandFlashId = 0xECA1;
     uint8_t fuelGaugeVersion = 3;
+    std::string spc = "000000";  // service programming code
+    // What the factory requests and host operations reach, by subject.
+    Radio radio;
+    TestCalls testCalls;
+    Audio audio;
+    Keypad keypad;
+    Bluetooth bluetooth;
+    Charger charger;
+    PhoneClock clock;
+    Camera camera;
+    Security security;
+    Factory factory;
+    UploadScript upload;
     // Value text by command name, as in {"+CMUT", "0"}. A command whose name is not here is answered with ERROR.
     std::map<std::string, std::string> atSettings = FreshAtSettings();
     int64_t clockAhead = 0;                         // seconds by which its clock (+CCLK) is ahead of the calendar

@@ -62,13 +62,4 @@ bool Reaches(ResourceContext handle, const char* operation, const Arguments&... 
     return Admits(handle, operation, arguments...) && PhoneAnswers();
 }
 
-// The whole of an operation that is still to be written.
-template <typename... Arguments>
-uint8_t NotSimulated(ResourceContext handle, const char* operation, const Arguments&... arguments)
-{
-    if (Admits(handle, operation, arguments...))
-        ReportNotSimulated(operation);
-    return 0;
-}
-
 }  // namespace simulator

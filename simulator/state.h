@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/clock.h"
+#include "platform/qmsl.h"
 #include "simulator/control.h"
 
 namespace simulator
@@ -55,6 +56,7 @@ struct LibraryState
     std::optional<ResourceContext> connectHandle;
     std::map<std::pair<bool, uint32_t>, ResourceContext> handles;  // by kind (logical or not) and number of the port
     std::map<ResourceContext, uint32_t> connections;               // how many connects of a handle are open
+    QlibUploadCallback uploadCallback = nullptr;
     bool batchMode = false;
     std::vector<std::pair<uint16_t, Bytes>> batch;  // NV writes that wait for the flush
 };

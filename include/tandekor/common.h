@@ -20,10 +20,10 @@
  * Threads.     Nothing is locked. Every call runs on the caller's thread and blocks until it is done; the caller sees
  *              to it that calls into the library do not overlap.
  * Log.         Texts go to the host library's text log, which TANDEKOR_Start_LOG opens; three refusals that depend on
- * the phone model go to standard output instead, where their functions say so. A text is cut to 12291 characters,
- * whatever a caller's own text adds to it. Memory.      Connecting allocates the objects of a connection; no other call
- * allocates. Widths.      Integers have the width of their type. A flag (prefix b) is 0 or 1 unless a function says
- * more.
+ *              the phone model go to standard output, where their functions say so. A text is cut to 12291
+ *              characters, whatever a caller's own text adds to it.
+ * Memory.      Connecting allocates the objects of a connection; no other call allocates.
+ * Widths.      Integers have the width of their type. A flag (prefix b) is 0 or 1 unless a function says more.
  */
 
 #if defined(_WIN32) && defined(TANDEKOR_BUILDING)
