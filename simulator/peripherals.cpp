@@ -1,0 +1,234 @@
+// Audio, keypad, Bluetooth, charger, clock, camera.
+#include <algorithm>
+
+#include "platform/qmsl.h"
+#include "simulator/operation.h"
+#include "simulator/state.h"
+
+using namespace simulator;
+
+namespace
+{
+
+constexpr int64_t btAddressLength = 6;
+constexpr uint32_t transistorStatusId = 11;
+constexpr uint32_t readableTransistor = 1;
+
+// An operation on the phone that changes or tells something and cannot fail.
+template <typename Action, typename... Arguments>
+uint8_t OnPhone(ResourceContext h, const char* operation, Action action, const Arguments&... arguments)
+{
+    if (!Reaches(h, operation, arguments...))
+        return 0;
+    action(ThePhone());
+    return 1;
+}
+
+// What an argument that comes in by pointer holds.
+template <typename Value>
+Value ValueAt(const Value* argument)
+{
+    return argument == nullptr ? Value{0} : *argument;
+}
+
+}  // namespace
+
+// --- audio
+uint8_t QLIB_FTM_AUDIO_SET_PATH(ResourceContext h, uint16_t iAudioDevice)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.audio.path = iAudioDevice; }, iAudioDevice);
+}
+uint8_t QLIB_FTM_AUDIO_SET_VOLUME(ResourceContext h, uint8_t iVolume)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.audio.volume = iVolume; }, iVolume);
+}
+uint8_t QLIB_FTM_AUDIO_PCM_LOOPBACK(ResourceContext h, uint8_t bLoopbackOn)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.audio.loopback = bLoopbackOn != 0; }, bLoopbackOn);
+}
+uint8_t QLIB_FTM_AUDIO_TONES_PLAY(ResourceContext h, uint16_t iHiFreq, uint16_t iLoFreq, uint16_t iMethod)
+{
+    return OnPhone(
+        h, __func__, [](Phone& phone) { phone.audio.tone = true; }, iHiFreq, iLoFreq, iMethod);
+}
+uint8_t QLIB_FTM_AUDIO_TONES_STOP(ResourceContext h)
+{
+    return OnPhone(h, __func__, [](Phone& phone) { phone.audio.tone = false; });
+}
+uint8_t QLIB_FTM_AUDIO_PCM_CAPTURE(ResourceContext h, uint16_t iNumBuffers, uint32_t iDelay_ms)
+{
+    return OnPhone(
+        h, __func__, [](Phone& phone) { phone.audio.capturing = true; }, iNumBuffers, iDelay_ms);
+}
+// A sawtooth, of which every byte tells its place; nothing without a capture.
+uint8_t QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(ResourceContext h, uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer)
+{
+    if (!Reaches(h, __func__, iDataOffset, iDataSize) || !ThePhone().audio.capturing || pBuffer == nullptr)
+        return 0;
+    for (uint32_t i = 0; i < iDataSize; ++i)
+        static_cast<uint8_t*>(pBuffer)[i] = static_cast<uint8_t>(iDataOffset + i);
+    return 1;
+}
+uint8_t QLIB_FTM_AUDIO_PCM_STOP_CAPTURE(ResourceContext h)
+{
+    return OnPhone(h, __func__, [](Phone& phone) { phone.audio.capturing = false; });
+}
+uint8_t QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST(ResourceContext h, int16_t iCodecTxGainAdjust)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.audio.codecTxGain = iCodecTxGainAdjust; }, iCodecTxGainAdjust);
+}
+
+// --- keypad
+uint8_t QLIB_DIAG_KeyPress_ClearMap(ResourceContext h)
+{
+    return OnPhone(h, __func__, [](Phone& phone) { phone.keypad.map.clear(); });
+}
+uint8_t QLIB_DIAG_KeyPress_AddMapEntry(ResourceContext h, uint16_t iHW_ID, uint8_t iKeyPressSW_ID)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.keypad.map.emplace_back(iHW_ID, iKeyPressSW_ID); }, iHW_ID,
+        iKeyPressSW_ID);
+}
+uint8_t QLIB_DIAG_KeyPress_ConfigureKeyDetect(ResourceContext h, const char* sKeyUpString, const char* sKeyDownString,
+                                              uint16_t iSSID, uint32_t iRT_MASK)
+{
+    return OnPhone(
+        h, __func__, [](Phone& phone) { phone.keypad.detecting = true; }, sKeyUpString, sKeyDownString, iSSID,
+        iRT_MASK);
+}
+uint8_t QLIB_DIAG_KeyPress_ClearQueue(ResourceContext h)
+{
+    return OnPhone(h, __func__, [](Phone& phone) { phone.keypad.queue.clear(); });
+}
+uint8_t QLIB_DIAG_KeyPress_GetQueueSize(ResourceContext h, uint16_t* piKeypressQueueSize)
+{
+    return OnPhone(h, __func__,
+                   [&](Phone& phone) { Put(piKeypressQueueSize, static_cast<uint16_t>(phone.keypad.queue.size())); });
+}
+uint8_t QLIB_DIAG_KeyPress_GetNextKeyEvent(ResourceContext h, uint16_t* piKeyPressID, uint8_t* piKeyPressEvent)
+{
+    const auto deliver = [&](Phone& phone)
+    {
+        std::deque<KeyEvent>& queue = phone.keypad.queue;
+        const KeyEvent next = queue.empty() ? KeyEvent() : queue.front();
+        if (!queue.empty())
+            queue.pop_front();
+        Put(piKeyPressID, next.key);
+        Put(piKeyPressEvent, next.event);
+    };
+    return OnPhone(h, __func__, deliver);
+}
+
+// --- Bluetooth
+uint8_t QLIB_FTM_BT_SetCW(ResourceContext h, uint8_t iChannel)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.bluetooth.cwChannel = iChannel; }, iChannel);
+}
+uint8_t QLIB_FTM_BT_HCI_USER_CMD(ResourceContext h, const uint8_t* pBuffer, uint8_t iLength)
+{
+    return OnPhone(
+        h, __func__, [](Phone&) {}, BytesAt(pBuffer, iLength), iLength);
+}
+uint8_t QLIB_FTM_BT_SetAddr(ResourceContext h, const uint8_t* iAddr)
+{
+    const Bytes address = BytesAt(iAddr, btAddressLength);
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.bluetooth.address = address; }, address);
+}
+uint8_t QLIB_FTM_BT_Enable_Bluetooth(ResourceContext h)
+{
+    return OnPhone(h, __func__, [](Phone& phone) { phone.bluetooth.enabled = true; });
+}
+uint8_t QLIB_BT_GetModuleVersion(ResourceContext h, void* pModuleVersion)
+{
+    return OnPhone(h, __func__,
+                   [&](Phone& phone) { Put(static_cast<uint8_t*>(pModuleVersion), phone.bluetooth.moduleVersion); });
+}
+
+// --- charger, drivers and clock
+uint8_t QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE(ResourceContext h, uint32_t iChargerSwitchType,
+                                           uint8_t iChargerSwitchCommand)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.charger.switches[iChargerSwitchType] = iChargerSwitchCommand; },
+        iChargerSwitchType, iChargerSwitchCommand);
+}
+uint8_t QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS(ResourceContext h, uint8_t iChargerMaxCurrent,
+                                                         uint8_t iChargerMaxVoltage)
+{
+    const auto keep = [&](Phone& phone)
+    {
+        phone.charger.maxCurrent = iChargerMaxCurrent;
+        phone.charger.maxVoltage = iChargerMaxVoltage;
+    };
+    return OnPhone(h, __func__, keep, iChargerMaxCurrent, iChargerMaxVoltage);
+}
+uint8_t QLIB_FTM_PMIC_INT_GET_RT_STATUS(ResourceContext h, uint32_t iInterruptStatusId, uint8_t* piInterruptStatus)
+{
+    if (!Reaches(h, __func__, iInterruptStatusId) || iInterruptStatusId != transistorStatusId)
+        return 0;
+    Put(piInterruptStatus, ThePhone().charger.switches[readableTransistor]);
+    return 1;
+}
+uint8_t QLIB_FTM_SET_PMIC_DRIVE_LEVEL(ResourceContext h, uint8_t iDriver, uint8_t iLevel)
+{
+    return OnPhone(
+        h, __func__, [&](Phone& phone) { phone.charger.driveLevels[iDriver] = iLevel; }, iDriver, iLevel);
+}
+uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext h, uint8_t iReadWrite, uint8_t* iTimeMode, uint8_t* iMonth,
+                                       uint8_t* iDay, uint16_t* iYear, uint8_t* iHour, uint8_t* iMinute,
+                                       uint8_t* iSecond)
+{
+    const PhoneClock given
+        = {ValueAt(iYear), ValueAt(iMonth), ValueAt(iDay), ValueAt(iHour), ValueAt(iMinute), ValueAt(iSecond)};
+    const auto keepOrTell = [&](Phone& phone)
+    {
+        if (iReadWrite == 0)
+        {
+            phone.clock = given;
+            return;
+        }
+        Put(iYear, phone.clock.year);
+        Put(iMonth, phone.clock.month);
+        Put(iDay, phone.clock.day);
+        Put(iHour, phone.clock.hour);
+        Put(iMinute, phone.clock.minute);
+        Put(iSecond, phone.clock.second);
+    };
+    return OnPhone(h, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode), given.month, given.day, given.year,
+                   given.hour, given.minute, given.second);
+}
+
+// --- camera
+uint8_t QLIB_FTM_CAMERA_SET_SENSOR_ID(ResourceContext h, uint8_t iCamNum, uint32_t* piCameraStatus)
+{
+    const auto choose = [&](Phone& phone)
+    {
+        phone.camera.sensor = iCamNum;
+        Put(piCameraStatus, phone.camera.status);
+    };
+    return OnPhone(h, __func__, choose, iCamNum);
+}
+uint8_t QLIB_FTM_CAMERA_START(ResourceContext h, uint32_t* piCameraStatus)
+{
+    const auto start = [&](Phone& phone)
+    {
+        phone.camera.running = true;
+        Put(piCameraStatus, phone.camera.status);
+    };
+    return OnPhone(h, __func__, start);
+}
+uint8_t QLIB_FTM_CAMERA_STOP(ResourceContext h, uint32_t* piCameraStatus)
+{
+    const auto stop = [&](Phone& phone)
+    {
+        phone.camera.running = false;
+        Put(piCameraStatus, phone.camera.status);
+    };
+    return OnPhone(h, __func__, stop);
+}
