@@ -260,7 +260,7 @@ extern "C"
 
     /*
      * Activates the on-chip virtual SIM of an online phone: service programming code, FTM mode (by a reset if need be),
-     * clock, back online, SIM; takes at least 4 and at most about 46 seconds of waits. iSPC: text with a NUL, shown in
+     * clock, back online, SIM; takes at least 4 and at most 42 seconds of waits. iSPC: text with a NUL, shown in
      * the log. piSPC_Result: out, not looked at. A failed clock is logged and passed over. The log is muted while the
      * phone restarts, and never left muted.
      */
@@ -271,7 +271,8 @@ extern "C"
 
     /*
      * Stores which network the phone looks for (eNetwMode) and its last good channel (eChannelMode, uiChannel, which
-     * the modes 0 and 5 ignore). The modes 0, 2, 3, 4 and 5 are known; another fails, after a first item was cleared.
+     * the modes 0 and 5 ignore). The modes 0, 2, 3, 4 and 5 are known; another fails, after the items in front of it
+     * were written.
      */
     TANDEKOR_API uint8_t TANDEKOR_NetworkAndChannelPreselection(ResourceContext hResourceContext, uint8_t eNetwMode,
                                                                 uint8_t eChannelMode, uint16_t uiChannel);
@@ -289,7 +290,7 @@ extern "C"
     TANDEKOR_API uint8_t TANDEKOR_AudioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
                                             uint8_t bLoopbackOn);
 
-    /* Sets the audio path and volume, starts a tone of two frequencies in Hz, and stops it at once. */
+    /* Sets the audio path and volume, starts a tone of two frequencies, and stops it at once. */
     TANDEKOR_API uint8_t TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDevice, uint8_t iVolume,
                                               uint16_t iHiFreq, uint16_t iLoFreq);
 
@@ -304,7 +305,8 @@ extern "C"
                                                  uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
                                                  uint32_t iReservedWord, int16_t iCodecTxGainAdjust);
 
-    /* Changes a clock register of the codec. Not checked, not logged; fails only if the register cannot be read. */
+    /* Clears bit 0 and sets the bits 1 to 3 of the register 0x84001308. Not checked, not logged; fails only if the
+     * register cannot be read. */
     TANDEKOR_API uint8_t TANDEKOR_DIAG_DISABLE_48KHz(ResourceContext hResourceContext);
 
     /* --- Keypad and display */
@@ -379,16 +381,16 @@ extern "C"
 
     /*
      * Freezes the phone. THIS CANNOT BE UNDONE. Compares IMEI (9 bytes), Bluetooth address (6 bytes) and serial number
-     * (16 bytes) in the form in which the phone stores them, each up to the first zero byte of the caller's value; only
-     * if all are equal does it write the key (260 bytes), read it back, compare it and lock the device. The result is
-     * the host library's byte of the last command. All lines of this procedure end with their own words, not with the
-     * usual "Completed successfully" and "Failure".
+     * (16 bytes) in the form in which the phone stores them; only if all are equal does it write the key (260 bytes),
+     * read it back, compare it and lock the device. Each comparison ends, as equal so far, with the first zero byte of
+     * the caller's value. On success the result is the host library's byte of the last command. The steps are logged in
+     * words of their own; nothing of the key is.
      */
     TANDEKOR_API uint8_t TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8_t* pExpectedImei,
                                                     const uint8_t* pExpectedBtAddress, const uint8_t* pExpectedSerial,
                                                     const uint8_t* pPublicKey);
 
-    /* The identification of the flash: maker in the upper bits, device in the low 8. */
+    /* The identification of the flash: the sixth of the host library's values times 256, plus the seventh. */
     TANDEKOR_API uint8_t TANDEKOR_FlashTest(ResourceContext hResourceContext, uint32_t* piFlashId);
 
     /* Writes 16 random bytes to the file \Test.bin on the memory card and reads them back. */
@@ -420,7 +422,9 @@ extern "C"
 
     /*
      * Uploads of the host library, which it has only in its QPST mode. Progress goes to the function that
-     * TANDEKOR_SetCallback has set, with percentages only for an upload of more than 2000 bytes. Nothing checks that
+     * TANDEKOR_SetCallback has set, with percentages only for an upload whose total is above 2000. Status and
+     * percentage are kept from one upload to the next, so the first status of an upload comes with the last percentage
+     * of the one before. Nothing checks that
      * the phone answers.
      */
     TANDEKOR_API uint8_t TANDEKOR_UploadCEFS_File2(ResourceContext hResourceContext, TandekorUploadArgument a1,

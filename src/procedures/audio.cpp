@@ -1,9 +1,10 @@
-// The phone's audio path: microphone bias, loopback, tone, PCM capture, and the clock of its codec.
+// The phone's audio path: microphone bias, loopback, tone, PCM capture, and one register of it.
 #include <algorithm>
 #include <iterator>
 
 #include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/host_word.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/procedures.h"
 
@@ -21,7 +22,7 @@ constexpr uint8_t biasRequest[14]
     = {0x4B, 0x0B, 0x01, 0x80, 0x70, 0x04, 0x0E, 0x00, 0x0E, 0x00, 0x00, 0x0B, 0x01, 0x00};
 constexpr int biasStatus = 10;
 
-constexpr uint32_t codecClockRegister = 0x84001308;
+constexpr uint32_t disabledBitsRegister = 0x84001308;
 
 }  // namespace
 
@@ -36,15 +37,15 @@ uint8_t PhoneProcedures::MicrophoneBiasVoltages(uint16_t iAudioDevice)
     uint8_t request[sizeof biasRequest];
     std::copy(std::begin(biasRequest), std::end(biasRequest), request);
     uint8_t response[sizeof biasRequest] = {};
-    uint16_t responseSize = sizeof response;
+    HostWord responseSize(sizeof response);
     constexpr int requestSize = sizeof request;
     if (!Step(
             "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %s, piResponseSize = %d, iTimeout = 2000)",
             [&] {
-                return QLIB_SendSync(hResourceContext, sizeof request, request, &responseSize, response,
+                return QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response,
                                      rawRequestTimeMs);
             },
-            requestSize, ItemText<sizeof request>(request), responseSize))
+            requestSize, ItemText<sizeof request>(request), *responseSize.Out()))
         return 0;
     if (response[biasStatus] != 0)
     {
@@ -100,25 +101,25 @@ uint8_t PhoneProcedures::TestMicrophone(uint16_t iNumBuffers, uint32_t iDataOffs
 uint8_t PhoneProcedures::DIAG_DISABLE_48KHz()
 {
     uint32_t value = 0;
-    if (QLIB_DIAG_MEMORY_PEEK_DWORD_F(hResourceContext, codecClockRegister, 1, &value) == 0)
+    if (QLIB_DIAG_MEMORY_PEEK_DWORD_F(hResourceContext, disabledBitsRegister, 1, &value) == 0)
         return 0;
     value = (value & ~uint32_t{0x01}) | 0x0E;
 
     constexpr uint8_t pokeDword = 0x05;
     constexpr uint8_t count = 1;
     uint8_t request[] = {pokeDword,
-                         static_cast<uint8_t>(codecClockRegister),
-                         static_cast<uint8_t>(codecClockRegister >> 8),
-                         static_cast<uint8_t>(codecClockRegister >> 16),
-                         static_cast<uint8_t>(codecClockRegister >> 24),
+                         static_cast<uint8_t>(disabledBitsRegister),
+                         static_cast<uint8_t>(disabledBitsRegister >> 8),
+                         static_cast<uint8_t>(disabledBitsRegister >> 16),
+                         static_cast<uint8_t>(disabledBitsRegister >> 24),
                          count,
                          static_cast<uint8_t>(value),
                          static_cast<uint8_t>(value >> 8),
                          static_cast<uint8_t>(value >> 16),
                          static_cast<uint8_t>(value >> 24)};
     uint8_t response[12] = {};
-    uint16_t responseSize = 10;
-    QLIB_SendSync(hResourceContext, sizeof request, request, &responseSize, response, rawRequestTimeMs);
+    HostWord responseSize(10);
+    QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response, rawRequestTimeMs);
     return 1;
 }
 

@@ -2,6 +2,7 @@
 #include "frame/internal_functions.h"
 #include "frame/phone_models.h"
 #include "platform/qmsl.h"
+#include "procedures/host_word.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"
@@ -38,8 +39,8 @@ uint8_t PhoneProcedures::SpecialSwitchDisplay(uint8_t uiDsplNum)
             msmModel))
         return 0;
 
-    uint16_t responseSize = ResponseSizeOf(phoneModel);
-    if (responseSize == noRequest)
+    HostWord responseSize(ResponseSizeOf(phoneModel));
+    if (responseSize.Value() == noRequest)
     {
         if (uiDsplNum == 0)
             return 1;
@@ -51,9 +52,11 @@ uint8_t PhoneProcedures::SpecialSwitchDisplay(uint8_t uiDsplNum)
     constexpr int requestSize = sizeof request;
     return Step(
         "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %u, piResponseSize = %i, iTimeout = %i)",
-        [&]
-        { return QLIB_SendSync(hResourceContext, sizeof request, request, &responseSize, response, rawRequestTimeMs); },
-        requestSize, AddressOf{request}, SignedWordOf{&responseSize}, rawRequestTimeMs);
+        [&] {
+            return QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response,
+                                 rawRequestTimeMs);
+        },
+        requestSize, AddressOf{request}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
 }
 
 uint8_t PhoneProcedures::FTM_DrawContrastPattern(char* sFileName, uint8_t uiDsplNum)

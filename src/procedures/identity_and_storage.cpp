@@ -5,7 +5,7 @@
 
 #include "frame/internal_functions.h"
 #include "platform/qmsl.h"
-#include "procedures/nv_status.h"
+#include "procedures/host_word.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 
@@ -51,7 +51,7 @@ bool SameText(const uint8_t* expected, const uint8_t* actual, size_t most)
 uint8_t PhoneProcedures::NV_READ_IMEI(char* sImei)
 {
     uint8_t item[imeiSize] = {};
-    NvStatus status;
+    HostWord status;
     if (TANDEKOR_CheckConnection(hResourceContext) == 0
         || !Step(
             "QLIB_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 9)",
@@ -108,6 +108,7 @@ bool PhoneProcedures::Remark(bool passed, const char* passedText, const char* fa
 
 bool PhoneProcedures::ReadIdentity(uint16_t iItemID, uint8_t* item, size_t size, const char* what)
 {
+    std::fill_n(item, size, uint8_t{0});
     const bool passed = TANDEKOR_DIAG_NV_READ_F(hResourceContext, iItemID, item, static_cast<int32_t>(size)) != 0;
     StepTrace(STEP_START, "\tTANDEKOR_DIAG_NV_READ_F() - read %s %s\n", what,
               passed ? "Completed successfully" : "Failure");

@@ -1,7 +1,7 @@
 // NV items and hardware registers of the phone, with the checks that a bare host call lacks.
 #include "frame/internal_functions.h"
 #include "platform/qmsl.h"
-#include "procedures/nv_status.h"
+#include "procedures/host_word.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor
@@ -31,7 +31,7 @@ constexpr char registerArguments[] = "(iAddress = %u, iNumItems = 1, pItemArray 
 
 bool PhoneProcedures::DIAG_NV_WRITE_F(uint16_t iItemID, const uint8_t* pItemData, int32_t iLength)
 {
-    NvStatus status;
+    HostWord status;
     if (TANDEKOR_CheckConnection(hResourceContext) == 0
         || !Step(
             "QLIB_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %u, iLength = %i)",
@@ -48,7 +48,7 @@ bool PhoneProcedures::DIAG_NV_WRITE_F(uint16_t iItemID, const uint8_t* pItemData
 
 bool PhoneProcedures::DIAG_NV_READ_F(uint16_t iItemID, uint8_t* pItemData, int32_t iLength)
 {
-    NvStatus status;
+    HostWord status;
     if (TANDEKOR_CheckConnection(hResourceContext) == 0
         || !Step("QLIB_DIAG_NV_READ_F", "",
                  [&] { return QLIB_DIAG_NV_READ_F(hResourceContext, iItemID, pItemData, iLength, status.Out()); }))

@@ -36,24 +36,24 @@ uint8_t UploadProgressCallback(const uint32_t* record)
 {
     if (record == nullptr)
         return 1;
-    const uint32_t value = record[2];
+    const uint32_t* value = record + 2;
     switch (record[0])
     {
         case statusEvent:
         case secondStatusEvent:
-            if (value != uploadStatus)
+            if (*value != uploadStatus)
             {
-                uploadStatus = value;
+                uploadStatus = *value;
                 TellCaller();
             }
             break;
         case totalEvent:
-            uploadTotal = value;
+            uploadTotal = *value;
             break;
         case progressEvent:
             if (uploadTotal > largestTotalWithoutProgress)
             {
-                uploadPercent = std::min(value * 100 / uploadTotal, uint32_t{100});
+                uploadPercent = std::min(*value * 100 / uploadTotal, uint32_t{100});
                 TellCaller();
             }
             break;
