@@ -1,0 +1,263 @@
+#include "tests/frame/guarded_call.h"
+
+namespace tandekor::test
+{
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+using Numbers = std::vector<uint32_t>;
+
+constexpr int ownProcedure = -1;
+
+struct Request
+{
+    GuardedCall call;
+    std::string bytes;  // of the last request, if there are two
+    std::string entry;
+    int valueBytes = ownProcedure;  // behind the status word in the reply to a standard command
+    uint32_t timeoutMs = 3000;
+};
+
+// An in-and-out argument goes out as the 0x55 that a guarded call puts into it.
+const std::vector<Request>& Requests()
+{
+    static const std::vector<Request> requests = {
+        {Call(TANDEKOR_FTM_GET_HARDWARE_VERSION), "4B 0B 00 80 0A 00 00 00 10 00",
+         "TANDEKOR_FTM_GET_HARDWARE_VERSION()", 4},
+        {Call(TANDEKOR_FTM_GET_HW_ID), "4B 0B 00 80 1D 00 00 00 0E 00", "TANDEKOR_FTM_GET_HW_ID()", 2},
+        {Call(TANDEKOR_FTM_GET_NAND_FLASH_ID), "4B 0B 00 80 0B 00 02 00 0E 00", "TANDEKOR_FTM_GET_NAND_FLASH_ID()", 2},
+        {Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION), "4B 0B 00 80 0D 00 00 00 0D 00",
+         "TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()"},
+        {Call(TANDEKOR_FTM_GET_BT_PARAM), "4B 0B 00 80 24 00 00 00 0F 00", "TANDEKOR_FTM_GET_BT_PARAM()", 3},
+        {Call(TANDEKOR_FTM_CONFIGURE_SWITCH, {1, 0}), "4B 0B 00 80 0E 00 03 00 0C 00 01 00 00",
+         "TANDEKOR_FTM_CONFIGURE_SWITCH(iSwitchID = 1, iSwitchState = 0)", 0},
+        {Call(TANDEKOR_FTM_CONFIGURE_SWITCH, {254, 255}), "4B 0B 00 80 0E 00 03 00 0C 00 FE 00 FF",
+         "TANDEKOR_FTM_CONFIGURE_SWITCH(iSwitchID = 254, iSwitchState = 255)", 0},
+        {Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {1}), "4B 0B 00 80 13 00 01 00 0C 00 01",
+         "TANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = 1)"},
+        {Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3}), "4B 0B 00 80 13 00 01 00 0C 00 03",
+         "TANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = 3)", ownProcedure, 20},
+        {Call(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2}), "4B 0B 00 80 19 00 00 00 0C 00 02",
+         "TANDEKOR_FTM_TEST_PMIC_USB(iUSB_UART_Mode = 2)"},
+        {Call(TANDEKOR_FTM_IRDA_ON_OFF, {1}), "4B 0B 00 80 0C 00 02 00 0C 00 01",
+         "TANDEKOR_FTM_IRDA_ON_OFF(iTurnLED_On = 1)", 0},
+        {Call(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {65535}), "4B 0B 00 80 21 00 02 00 0C 00 FF FF",
+         "TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST(iIrdaLength_ms = 65535)", ownProcedure, 68535},
+        {Call(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9}), "4B 0B 01 80 4A 05 0C 00 0C 00 00 05 0C",
+         "TANDEKOR_FTM_TEST_IRDA_TX_RX()"},
+        {Call(TANDEKOR_FTM_START_AGPS_CTON_MEAS), "4B 0B 00 80 1F 00 00 00 0C 00",
+         "TANDEKOR_FTM_START_AGPS_CTON_MEAS()"},
+        {Call(TANDEKOR_FTM_GET_AGPS_CTON_MEAS), "4B 0B 00 80 20 00 00 00 0E 00", "TANDEKOR_FTM_GET_AGPS_CTON_MEAS()"},
+        {Call(TANDEKOR_FTM_RTC_START, {0x1234}), "4B 0B 00 80 D5 00 03 00 0D 00 55 34 12",
+         "TANDEKOR_FTM_RTC_START(bStatus = 85, iTime = 4660)"},
+        {Call(TANDEKOR_FTM_RTC_OSC_CTRL, {1}), "4B 0B 00 80 D6 00 02 00 0C 00 55 01",
+         "TANDEKOR_FTM_RTC_OSC_CTRL(bStatus = 85, bSwitch = 1)"},
+        {Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), "4B 0B 00 80 D9 00 02 00 0C 00 07 FF",
+         "TANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
+    };
+    return requests;
+}
+
+class FtmRequestsTest : public BenchTest
+{
+protected:
+    // The phone that answers with the header and these fields.
+    static void RepliesWith(const std::string& fields) { Replies(Hex("4B 0B 00 80 00 00 00 00 00 00 " + fields)); }
+};
+
+}  // namespace
+
+std::vector<GuardedCall> FtmCalls()
+{
+    std::vector<GuardedCall> calls;
+    for (const Request& request : Requests())
+        calls.push_back(request.call);
+    return calls;
+}
+
+TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryText)
+{
+    for (const Request& request : Requests())
+    {
+        SCOPED_TRACE(request.entry);
+        simulator::ForgetLog();
+        simulator::RepeatReply({Bytes(20, 0), 1, {}});
+        EXPECT_EQ(request.call(handle).result, request.timeoutMs == 20 ? 0 : 1);
+        EXPECT_EQ(LastRequest(), request.bytes);
+        EXPECT_EQ(LastTimeoutMs(), request.timeoutMs);
+        EXPECT_EQ(simulator::Exchanges().back().operation, "QLIB_SendSync");
+        EXPECT_EQ(Log().front(), request.entry);
+    }
+}
+
+TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
+{
+    for (const Request& request : Requests())
+    {
+        if (request.valueBytes == ownProcedure)
+            continue;
+        const std::string values = std::string(" 77 77 77 77").substr(0, 3 * static_cast<size_t>(request.valueBytes));
+        const auto expect = [&](uint8_t result, bool outsWritten, const std::string& ending)
+        {
+            const CallResult call = request.call(handle);
+            EXPECT_EQ(call.result, result) << request.entry;
+            EXPECT_EQ(call.outsUntouched, !outsWritten || call.outs.empty()) << request.entry;
+            EXPECT_EQ(Log().back(), "\t" + request.entry + ending);
+        };
+        RepliesWith("00 00" + values);
+        expect(1, true, " - Completed successfully\n");
+        Replies(Bytes());
+        expect(1, false, " - Completed successfully\n");
+        RepliesWith("2C 81" + values);
+        expect(0, true, " - error code = 33068");
+        FailsToReply();
+        expect(0, false, " - SendSync() fail (error code = 187)");
+        FailsToReply(Hex("4B 00 00"));
+        expect(0, false, " - SendSync() fail (error code = 75)");
+    }
+}
+
+TEST_F(FtmRequestsTest, FieldsAreTakenFromTheEndOfTheReplyAsFarAsItGoes)
+{
+    const GuardedCall hardware = Call(TANDEKOR_FTM_GET_HARDWARE_VERSION), bluetooth = Call(TANDEKOR_FTM_GET_BT_PARAM);
+    struct
+    {
+        GuardedCall call;
+        std::string reply;
+        uint8_t result;
+        Numbers outs;
+    } const cases[] = {
+        {hardware, "00 01 02 03 04 05 06 07 08 09 00 00 78 56 34 92", 1, {0x92345678}},
+        {hardware, "00 01 02 03 04 05 06 07 08 09 FF FF FF 00 00 78 56 34 92", 1, {0x92345678}},
+        {hardware, "07 00 01 02 03 04", 0, {0x04030201}},
+        {hardware, "07 01 02 03 04", 1, {0x04030201}},
+        {hardware, "07 00 00", 1, {0x55555555}},
+        {hardware, "07 00", 0, {0x55555555}},
+        {hardware, "07", 1, {0x55555555}},
+        {Call(TANDEKOR_FTM_GET_NAND_FLASH_ID), "00 00 34 12", 1, {0x1234}},
+        {bluetooth, "05 01 01 02 03", 0, {0x0105, 1, 2, 3}},
+        {bluetooth, "09 01 02 03", 1, {0x5555, 1, 2, 3}},
+        {bluetooth, "03", 1, {0x5555, 0x55, 0x55, 3}},
+    };
+    for (const auto& row : cases)
+    {
+        Replies(Hex(row.reply));
+        const CallResult call = row.call(handle);
+        EXPECT_EQ(call.result, row.result) << row.reply;
+        EXPECT_EQ(call.outs, row.outs) << row.reply;
+    }
+}
+
+TEST_F(FtmRequestsTest, HardwareIdOfOneBuildNeedsNoRequest)
+{
+    const GuardedCall call = Call(TANDEKOR_FTM_GET_HW_ID);
+    const std::string entry = "TANDEKOR_FTM_GET_HW_ID()", asked = "QLIB_DIAG_EXT_BUILD_ID_F()";
+    const std::string done = "\tTANDEKOR_FTM_GET_HW_ID() - Completed successfully\n";
+    simulator::ThePhone().buildId = "M-DraK2F-07";
+    EXPECT_EQ(call(handle).outs, Numbers{8});
+    EXPECT_EQ(CountExchanges(), 0u);
+
+    RepliesWith("00 00 02 01");
+    simulator::RefuseCall("QLIB_DIAG_EXT_BUILD_ID_F");
+    EXPECT_EQ(call(handle).outs, Numbers{0x0102});
+    simulator::ThePhone().buildId = "DraK2";
+    simulator::ThePhone().buildModel = "DraK2F";
+    RepliesWith("00 00 02 01");
+    EXPECT_EQ(call(handle).outs, Numbers{0x0102});
+    EXPECT_EQ(Log(), (Texts{entry, asked, entry, done, entry, asked, done}));
+}
+
+// Replies without their header, and what is logged behind the entry text.
+TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
+{
+    const std::string silence = "no reply", done = " - Completed successfully\n";
+    const std::string noReply = " - SendSync() fail (error code = 187)";
+    constexpr uint32_t untouched = 0x55555555;
+    const GuardedCall usb = Call(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2});
+    const std::string usbText = "\tTANDEKOR_FTM_TEST_FTM_PMIC_USB(iUSB_UART_Mode = 2)";
+    const GuardedCall gauge = Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION);
+    const std::string gaugeText = "\tTANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()", refused = gaugeText + " - error code = 5";
+    const std::string secondText = "TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()";
+    const GuardedCall power2 = Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {2});
+    const GuardedCall power3 = Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3});
+    const std::string powerText = "\tTANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = ";
+    const GuardedCall led = Call(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {500});
+    const std::string ledText = "\tTANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST()";
+    const GuardedCall loop = Call(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9});
+    const std::string loopText = "\tTANDEKOR_FTM_TEST_IRDA_TX_RX()";
+    const GuardedCall start = Call(TANDEKOR_FTM_START_AGPS_CTON_MEAS), get = Call(TANDEKOR_FTM_GET_AGPS_CTON_MEAS);
+    const std::string startText = "\tTANDEKOR_FTM_START_AGPS_CTON_MEAS()";
+    const std::string getText = "\tTANDEKOR_FTM_GET_AGPS_CTON_MEAS()";
+    const GuardedCall clock = Call(TANDEKOR_FTM_RTC_START, {32769}), osc = Call(TANDEKOR_FTM_RTC_OSC_CTRL, {1});
+    const std::string clockText = "\tTANDEKOR_FTM_RTC_START(bStatus = ";
+    const std::string oscText = "\tTANDEKOR_FTM_RTC_OSC_CTRL(bStatus = ";
+    const GuardedCall tracer = Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 1});
+    const std::string tracerText = "\tTANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 1)";
+    struct
+    {
+        GuardedCall call;
+        Texts replies;
+        uint8_t result;
+        Numbers outs;
+        Texts log;
+    } const cases[] = {
+        {usb, {"00 00"}, 1, {}, {usbText + done}},
+        {usb, {"09 00"}, 0, {}, {usbText + " - error code = 9"}},
+        {usb, {silence}, 0, {}, {usbText + noReply}},
+        {gauge, {"00 00 21"}, 1, {0x21}, {gaugeText + done}},
+        {gauge, {silence}, 0, {0x55}, {}},
+        {gauge, {"05 00 21", "00 00 22"}, 1, {0x22}, {refused, secondText, "\t" + secondText + done}},
+        {gauge, {"05 00 21", "06 00 22"}, 0, {0x22}, {refused, secondText, "\t" + secondText + " - error code = 6"}},
+        {gauge, {"05 00 21", silence}, 0, {0x21}, {refused, secondText}},
+        {power2, {"00 00"}, 1, {}, {powerText + "2) " + done}},
+        {power2, {"09 00"}, 0, {}, {powerText + "2) - error code = 9"}},
+        {power2, {silence}, 0, {}, {powerText + "2)" + noReply}},
+        {power3, {silence}, 1, {}, {powerText + "3) " + done}},
+        {power3, {"00 00"}, 0, {}, {powerText + "3) - Failure\n"}},
+        {led, {"09 00"}, 1, {0}, {ledText + done}},
+        {led, {silence}, 0, {187}, {ledText + noReply}},
+        {loop, {"01 02 03 04", "11 00 00 00 22 00 00 80"}, 1, {0x11, 0x80000022}, {loopText + done}},
+        {loop, {silence}, 0, {untouched, untouched}, {loopText + noReply}},
+        {loop, {"01 02 03 04", silence}, 0, {untouched, untouched}, {loopText + noReply}},
+        {start, {"05 81"}, 1, {0x8105}, {startText + done}},
+        {start, {silence}, 0, {0x5555}, {startText + noReply}},
+        {get, {"05 00 34 12"}, 1, {0x1234, 0}, {getText + done}},
+        {get, {silence}, 0, {0x5555, 187}, {getText + noReply}},
+        {clock, {"00 34 92 EE FF"}, 1, {0}, {clockText + "0, iTime = 37428)" + done}},
+        {clock, {"07 34 12 EE FF"}, 0, {7}, {clockText + "7, iTime = 4660) - Wrong status (7)\n"}},
+        {clock, {silence}, 0, {85}, {clockText + "85, iTime = 32769) - error code = 187"}},
+        {osc, {"00 02"}, 1, {0}, {oscText + "0, bSwitch = 2)" + done}},
+        {osc, {"07 02"}, 0, {7}, {oscText + "7, bSwitch = 2) - Wrong status (7) = 0"}},
+        {osc, {silence}, 0, {85}, {oscText + "85, bSwitch = 1) - error code = 187"}},
+        {tracer, {"09 00"}, 1, {}, {tracerText + done}},
+        {tracer, {silence}, 0, {}, {tracerText + " - error code = 187"}},
+    };
+    for (const auto& row : cases)
+    {
+        simulator::ForgetCalls();
+        simulator::ForgetLog();
+        for (const std::string& reply : row.replies)
+            reply == silence ? FailsToReply() : RepliesWith(reply);
+        const CallResult call = row.call(handle);
+        SCOPED_TRACE(Log().front() + " answered by " + row.replies.back());
+        EXPECT_EQ(call.result, row.result);
+        EXPECT_EQ(call.outs, row.outs);
+        EXPECT_EQ((Texts{Log().begin() + 1, Log().end()}), row.log);
+        EXPECT_EQ(CountExchanges(), row.replies.size());
+    }
+}
+
+TEST_F(FtmRequestsTest, RequestsThatTheTableDoesNotShow)
+{
+    RepliesWith("05 00 21");
+    Replies(Bytes());
+    EXPECT_EQ(Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION)(handle).result, 1) << "the first status does not count twice";
+    EXPECT_EQ(LastRequest(), "4B 0B 01 80 3E 05 0A 00 0C 00");
+    FailsToReply();
+    Call(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9})(handle);
+    EXPECT_EQ(LastRequest(), "4B 0B 01 80 3C 05 0C 00 0C 00 00 A7 0C");
+}
+
+}  // namespace tandekor::test
