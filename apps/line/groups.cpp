@@ -1,0 +1,48 @@
+#include <cstdarg>
+#include <cstdio>
+
+#include "test.h"
+
+namespace tandekor::line
+{
+
+extern const Group startGroup, versionsGroup, identificationGroup, hardwareGroup, atGroup, filesGroup, endGroup;
+
+std::span<const Group* const> Groups()
+{
+    static constexpr const Group* groups[]
+        = {&startGroup, &versionsGroup, &identificationGroup, &hardwareGroup, &atGroup, &filesGroup, &endGroup};
+    return groups;
+}
+
+namespace
+{
+
+std::string Format(const char* format, va_list values)
+{
+    char text[2048];
+    std::vsnprintf(text, sizeof text, format, values);
+    return text;
+}
+
+}  // namespace
+
+Outcome Passed(const char* format, ...)
+{
+    va_list values;
+    va_start(values, format);
+    const std::string text = Format(format, values);
+    va_end(values);
+    return {true, text};
+}
+
+Outcome Failed(const char* format, ...)
+{
+    va_list values;
+    va_start(values, format);
+    const std::string text = Format(format, values);
+    va_end(values);
+    return {false, text};
+}
+
+}  // namespace tandekor::line

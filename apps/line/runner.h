@@ -1,0 +1,22 @@
+// Which tests run, and running them in the order of their tables.
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "test.h"
+
+namespace tandekor::line
+{
+
+using Selection = std::set<const Test*>;
+
+// Selects the tests that are named, alone or by their group, and those of the frame that they need; no names select
+// everything. Gives an empty text, or for a name that is not known what to tell the user.
+std::string Select(const std::vector<std::string>& names, Selection& selection);
+
+// Gives whether all of them passed.
+bool Run(const Options& options, const Selection& selection);
+
+}  // namespace tandekor::line
