@@ -109,6 +109,7 @@ struct Security
     bool secured = false;
     uint32_t status = 0;         // what the security commands deliver
     uint32_t commandStatus = 0;  // and the SIM's
+    uint8_t result = 1;          // of the security commands, where they are carried out
 };
 
 // How an upload goes: its events are told step by step.

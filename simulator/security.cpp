@@ -28,7 +28,7 @@ uint8_t SecurityCommand(uint32_t* piGsdiValue, uint32_t* piStatus, Action action
         action(security);
     Put(piGsdiValue, 0);
     Put(piStatus, security.status);
-    return 1;
+    return security.result;
 }
 
 void Report(uint32_t event, uint32_t value)

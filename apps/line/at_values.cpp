@@ -2,8 +2,8 @@
 #include <initializer_list>
 #include <limits>
 
+#include "at_reply.h"
 #include "tandekor/at.h"
-#include "test.h"
 
 namespace tandekor::line
 {
@@ -23,15 +23,11 @@ Outcome Read(const Context& context, uint8_t (*get)(ResourceContext, Value*, uin
              const char* unit, std::initializer_list<Meaning> meanings = {})
 {
     constexpr Value unread = std::numeric_limits<Value>::max();
-    constexpr uint16_t statusOk = 0;
-    constexpr uint16_t statusError = 1;
     Value value = unread;
-    uint16_t status = statusOk;
-    if (get(context.handle, &value, &status) == 0)
-        return Failed("the exchange with the phone failed\nTANDEKOR_AT_Get_%s gave 0", command);
-    if (status != statusOk)
-        return Failed("the phone answered %s\nTANDEKOR_AT_Get_%s gave the status %u",
-                      status == statusError ? "ERROR" : "neither OK nor ERROR, as in +CME ERROR", command, status);
+    uint16_t status = atStatusOk;
+    const uint8_t result = get(context.handle, &value, &status);
+    if (!AtAnswered(result, status))
+        return AtNotAnswered(result, status, std::string("TANDEKOR_AT_Get_") + command);
     if (value == unread)
         return Failed("the phone answered OK without a number\nTANDEKOR_AT_Get_%s gave no value", command);
     const unsigned number = value;

@@ -1,11 +1,10 @@
 // The phone's file server. Each test takes the port to OBEX and back, and leaves no file behind.
-#include <stdlib.h>
-
-#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tandekor/at.h"
@@ -83,8 +82,9 @@ size_t CountOf(const std::string& text, const char* part)
 Outcome InObexMode(Context& context, void (*work)(Calls& calls))
 {
     uint16_t status = 0;
-    if (TANDEKOR_AT_2_OBEX(context.handle, &status) == 0 || status != 0)
-        return Failed("the port did not go to OBEX\nTANDEKOR_AT_2_OBEX gave the status %u", status);
+    const uint8_t switched = TANDEKOR_AT_2_OBEX(context.handle, &status);
+    if (switched == 0 || status != 0)
+        return Failed("the port did not go to OBEX\nTANDEKOR_AT_2_OBEX gave %u, status %u", switched, status);
     Calls calls{context};
     work(calls);
     uint16_t firstByte = 0;

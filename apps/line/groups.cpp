@@ -6,12 +6,13 @@
 namespace tandekor::line
 {
 
-extern const Group startGroup, versionsGroup, identificationGroup, hardwareGroup, atGroup, filesGroup, endGroup;
+extern const Group startGroup, versionsGroup, identificationGroup, hardwareGroup, atGroup, phoneGroup, filesGroup,
+    endGroup;
 
 std::span<const Group* const> Groups()
 {
-    static constexpr const Group* groups[]
-        = {&startGroup, &versionsGroup, &identificationGroup, &hardwareGroup, &atGroup, &filesGroup, &endGroup};
+    static constexpr const Group* groups[] = {&startGroup, &versionsGroup, &identificationGroup, &hardwareGroup,
+                                              &atGroup,    &phoneGroup,    &filesGroup,          &endGroup};
     return groups;
 }
 

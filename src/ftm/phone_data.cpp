@@ -1,4 +1,5 @@
 // Data that the phone keeps: SIM, memory card files, factory data, RF items.
+#include <algorithm>
 #include <cstring>
 
 #include "frame/item_text.h"
@@ -108,7 +109,7 @@ uint8_t FtmChannel::MMC_FILE_ACCESS(uint8_t iAccessType, uint16_t iMMC_DataLengt
     uint16_t& dataSide = iAccessType == mmcRead ? command.responseLength : command.dataLength;
     dataSide = static_cast<uint16_t>(dataSide + iMMC_DataLength);
     char fileName[fileNameSize] = {};
-    std::strncpy(fileName, psFileName, fileNameSize);
+    std::copy_n(psFileName, std::min(std::strlen(psFileName), fileNameSize), fileName);
 
     BuildFtmHeader(command);
     packetBuffer.AddByte(iAccessType);

@@ -15,6 +15,6 @@ size_t ReadFromFile(const char* path, uint64_t position, void* bytes, size_t cou
 
 // Writes the bytes behind what the file holds, or in its place; makes the file if there is none.
 bool AppendToFile(const char* path, const void* bytes, size_t count);
-bool ReplaceFile(const char* path, const void* bytes, size_t count);
+bool OverwriteFile(const char* path, const void* bytes, size_t count);
 
 }  // namespace tandekor::platform

@@ -1,4 +1,4 @@
-#include "tests/frame/guarded_call.h"
+#include "tests/ftm/ftm_test.h"
 
 namespace tandekor::test
 {
@@ -6,24 +6,9 @@ namespace tandekor::test
 namespace
 {
 
-using Texts = std::vector<std::string>;
-using Numbers = std::vector<uint32_t>;
-
-constexpr int ownProcedure = -1;
-
-struct Request
-{
-    GuardedCall call;
-    std::string bytes;  // of the last request, if there are two
-    std::string entry;
-    int valueBytes = ownProcedure;  // behind the status word in the reply to a standard command
-    uint32_t timeoutMs = 3000;
-};
-
-// An in-and-out argument goes out as the 0x55 that a guarded call puts into it.
 const std::vector<Request>& Requests()
 {
-    static const std::vector<Request> requests = {
+    static const std::vector<Request> identificationAndSwitches = {
         {Call(TANDEKOR_FTM_GET_HARDWARE_VERSION), "4B 0B 00 80 0A 00 00 00 10 00",
          "TANDEKOR_FTM_GET_HARDWARE_VERSION()", 4},
         {Call(TANDEKOR_FTM_GET_HW_ID), "4B 0B 00 80 1D 00 00 00 0E 00", "TANDEKOR_FTM_GET_HW_ID()", 2},
@@ -40,7 +25,8 @@ const std::vector<Request>& Requests()
         {Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3}), "4B 0B 00 80 13 00 01 00 0C 00 03",
          "TANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = 3)", ownProcedure, 20},
         {Call(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2}), "4B 0B 00 80 19 00 00 00 0C 00 02",
-         "TANDEKOR_FTM_TEST_PMIC_USB(iUSB_UART_Mode = 2)"},
+         "TANDEKOR_FTM_TEST_PMIC_USB(iUSB_UART_Mode = 2)", 0, 3000,
+         "TANDEKOR_FTM_TEST_FTM_PMIC_USB(iUSB_UART_Mode = 2)"},
         {Call(TANDEKOR_FTM_IRDA_ON_OFF, {1}), "4B 0B 00 80 0C 00 02 00 0C 00 01",
          "TANDEKOR_FTM_IRDA_ON_OFF(iTurnLED_On = 1)", 0},
         {Call(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {65535}), "4B 0B 00 80 21 00 02 00 0C 00 FF FF",
@@ -57,15 +43,18 @@ const std::vector<Request>& Requests()
         {Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), "4B 0B 00 80 D9 00 02 00 0C 00 07 FF",
          "TANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
     };
+    static const std::vector<Request> requests = []
+    {
+        std::vector<Request> all = identificationAndSwitches;
+        for (const auto& more :
+             {LowLevelRequests(), PhoneDataRequests(), FmRadioRequests(), DisplayAndCameraRequests()})
+            all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }();
     return requests;
 }
 
-class FtmRequestsTest : public BenchTest
-{
-protected:
-    // The phone that answers with the header and these fields.
-    static void RepliesWith(const std::string& fields) { Replies(Hex("4B 0B 00 80 00 00 00 00 00 00 " + fields)); }
-};
+using FtmRequestsTest = FtmTest;
 
 }  // namespace
 
@@ -74,6 +63,7 @@ std::vector<GuardedCall> FtmCalls()
     std::vector<GuardedCall> calls;
     for (const Request& request : Requests())
         calls.push_back(request.call);
+    calls.push_back(Call(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<int64_t>(15, -1)));
     return calls;
 }
 
@@ -83,7 +73,7 @@ TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryText)
     {
         SCOPED_TRACE(request.entry);
         simulator::ForgetLog();
-        simulator::RepeatReply({Bytes(20, 0), 1, {}});
+        simulator::RepeatReply({Bytes(40, 0), 1, {}});
         EXPECT_EQ(request.call(handle).result, request.timeoutMs == 20 ? 0 : 1);
         EXPECT_EQ(LastRequest(), request.bytes);
         EXPECT_EQ(LastTimeoutMs(), request.timeoutMs);
@@ -99,21 +89,22 @@ TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
         if (request.valueBytes == ownProcedure)
             continue;
         const std::string values = std::string(" 77 77 77 77").substr(0, 3 * static_cast<size_t>(request.valueBytes));
+        const std::string& closing = request.closing.empty() ? request.entry : request.closing;
         const auto expect = [&](uint8_t result, bool outsWritten, const std::string& ending)
         {
             const CallResult call = request.call(handle);
             EXPECT_EQ(call.result, result) << request.entry;
             EXPECT_EQ(call.outsUntouched, !outsWritten || call.outs.empty()) << request.entry;
-            EXPECT_EQ(Log().back(), "\t" + request.entry + ending);
+            EXPECT_EQ(Log().back(), "\t" + closing + ending);
         };
         RepliesWith("00 00" + values);
-        expect(1, true, " - Completed successfully\n");
+        expect(1, true, done);
         Replies(Bytes());
-        expect(1, false, " - Completed successfully\n");
+        expect(1, false, done);
         RepliesWith("2C 81" + values);
-        expect(0, true, " - error code = 33068");
+        expect(0, true, request.statusIsByte ? " - error code = 129" : " - error code = 33068");
         FailsToReply();
-        expect(0, false, " - SendSync() fail (error code = 187)");
+        expect(0, false, noReply);
         FailsToReply(Hex("4B 00 00"));
         expect(0, false, " - SendSync() fail (error code = 75)");
     }
@@ -154,7 +145,7 @@ TEST_F(FtmRequestsTest, HardwareIdOfOneBuildNeedsNoRequest)
 {
     const GuardedCall call = Call(TANDEKOR_FTM_GET_HW_ID);
     const std::string entry = "TANDEKOR_FTM_GET_HW_ID()", asked = "QLIB_DIAG_EXT_BUILD_ID_F()";
-    const std::string done = "\tTANDEKOR_FTM_GET_HW_ID() - Completed successfully\n";
+    const std::string completed = "\tTANDEKOR_FTM_GET_HW_ID() - Completed successfully\n";
     simulator::ThePhone().buildId = "M-DraK2F-07";
     EXPECT_EQ(call(handle).outs, Numbers{8});
     EXPECT_EQ(CountExchanges(), 0u);
@@ -166,17 +157,13 @@ TEST_F(FtmRequestsTest, HardwareIdOfOneBuildNeedsNoRequest)
     simulator::ThePhone().buildModel = "DraK2F";
     RepliesWith("00 00 02 01");
     EXPECT_EQ(call(handle).outs, Numbers{0x0102});
-    EXPECT_EQ(Log(), (Texts{entry, asked, entry, done, entry, asked, done}));
+    EXPECT_EQ(Log(), (Texts{entry, asked, entry, completed, entry, asked, completed}));
 }
 
 // Replies without their header, and what is logged behind the entry text.
 TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
 {
-    const std::string silence = "no reply", done = " - Completed successfully\n";
-    const std::string noReply = " - SendSync() fail (error code = 187)";
     constexpr uint32_t untouched = 0x55555555;
-    const GuardedCall usb = Call(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2});
-    const std::string usbText = "\tTANDEKOR_FTM_TEST_FTM_PMIC_USB(iUSB_UART_Mode = 2)";
     const GuardedCall gauge = Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION);
     const std::string gaugeText = "\tTANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()", refused = gaugeText + " - error code = 5";
     const std::string secondText = "TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()";
@@ -195,17 +182,7 @@ TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
     const std::string oscText = "\tTANDEKOR_FTM_RTC_OSC_CTRL(bStatus = ";
     const GuardedCall tracer = Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 1});
     const std::string tracerText = "\tTANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 1)";
-    struct
-    {
-        GuardedCall call;
-        Texts replies;
-        uint8_t result;
-        Numbers outs;
-        Texts log;
-    } const cases[] = {
-        {usb, {"00 00"}, 1, {}, {usbText + done}},
-        {usb, {"09 00"}, 0, {}, {usbText + " - error code = 9"}},
-        {usb, {silence}, 0, {}, {usbText + noReply}},
+    ExpectAnswers({
         {gauge, {"00 00 21"}, 1, {0x21}, {gaugeText + done}},
         {gauge, {silence}, 0, {0x55}, {}},
         {gauge, {"05 00 21", "00 00 22"}, 1, {0x22}, {refused, secondText, "\t" + secondText + done}},
@@ -233,20 +210,7 @@ TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
         {osc, {silence}, 0, {85}, {oscText + "85, bSwitch = 1) - error code = 187"}},
         {tracer, {"09 00"}, 1, {}, {tracerText + done}},
         {tracer, {silence}, 0, {}, {tracerText + " - error code = 187"}},
-    };
-    for (const auto& row : cases)
-    {
-        simulator::ForgetCalls();
-        simulator::ForgetLog();
-        for (const std::string& reply : row.replies)
-            reply == silence ? FailsToReply() : RepliesWith(reply);
-        const CallResult call = row.call(handle);
-        SCOPED_TRACE(Log().front() + " answered by " + row.replies.back());
-        EXPECT_EQ(call.result, row.result);
-        EXPECT_EQ(call.outs, row.outs);
-        EXPECT_EQ((Texts{Log().begin() + 1, Log().end()}), row.log);
-        EXPECT_EQ(CountExchanges(), row.replies.size());
-    }
+    });
 }
 
 TEST_F(FtmRequestsTest, RequestsThatTheTableDoesNotShow)

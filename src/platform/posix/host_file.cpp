@@ -68,6 +68,9 @@ bool AppendToFile(const char* path, const void* bytes, size_t count)
     return WriteToFile(path, O_APPEND, bytes, count);
 }
 
-bool ReplaceFile(const char* path, const void* bytes, size_t count) { return WriteToFile(path, O_TRUNC, bytes, count); }
+bool OverwriteFile(const char* path, const void* bytes, size_t count)
+{
+    return WriteToFile(path, O_TRUNC, bytes, count);
+}
 
 }  // namespace tandekor::platform

@@ -53,7 +53,7 @@ bool AppendToFile(const char* path, const void* bytes, size_t count)
     return WriteToFile(path, FILE_APPEND_DATA, OPEN_ALWAYS, bytes, count);
 }
 
-bool ReplaceFile(const char* path, const void* bytes, size_t count)
+bool OverwriteFile(const char* path, const void* bytes, size_t count)
 {
     return WriteToFile(path, GENERIC_WRITE, CREATE_ALWAYS, bytes, count);
 }
