@@ -47,7 +47,7 @@ std::string Shown(const std::vector<uint32_t>& words)
 {
     std::string text;
     for (const uint32_t word : words)
-        text += (text.empty() ? "" : " ") + std::to_string(word);
+        text.append(text.empty() ? "" : " ").append(std::to_string(word));
     return text;
 }
 

@@ -25,7 +25,7 @@ template <typename... Arguments>
 std::string ShownTogether(const Arguments&... arguments)
 {
     std::string text;
-    ((text += (text.empty() ? "" : ", ") + Shown(arguments)), ...);
+    ((text.append(text.empty() ? "" : ", ").append(Shown(arguments))), ...);
     return text;
 }
 

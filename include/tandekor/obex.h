@@ -8,11 +8,12 @@
  *
  * Phone folders are paths from the root with a backslash behind every component ("Pictures\Holiday\"); "" is the root,
  * and a backslash in front goes to the root as well. A last component without its backslash is refused. Names and paths
- * are bytes, which go to the phone without any code conversion. A path or name that is too long for its packet is
- * refused before anything of it is sent. Local folders end in the host's own separator: the file name is put right
+ * are bytes, which go to the phone without any code conversion. A component or name that is too long for its packet
+ * is refused and not sent. Local folders end in the host's own separator: the file name is put right
  * behind them, and both together have at most 259 characters.
  *
- * A reply is read only as far as it was delivered: one that is shorter than its fields fails the operation.
+ * A reply is read only as far as it was delivered: where its fields count, one that is shorter than they say fails the
+ * operation. Data that come with the reply that ends a transfer, in an End of Body header, are not taken.
  * In the QPST library mode every function gives 0, sends nothing and leaves its arguments alone.
  */
 #ifndef TANDEKOR_OBEX_H
@@ -31,7 +32,7 @@ extern "C"
         TANDEKOR_OBEX_NO_ERROR = 0,
         TANDEKOR_OBEX_CONNECT_FAILED = 1,    /* no session: result 0, nothing else was sent */
         TANDEKOR_OBEX_DISCONNECT_FAILED = 2, /* result 0 */
-        TANDEKOR_OBEX_WALK_FAILED = 4,       /* no such folder */
+        TANDEKOR_OBEX_WALK_FAILED = 4,       /* no such folder, or a part that cannot be sent */
         TANDEKOR_OBEX_LISTING_FAILED = 8,
         TANDEKOR_OBEX_LISTING_TOO_LARGE = 16, /* larger than the caller's buffer */
         TANDEKOR_OBEX_GET_FAILED = 32,
@@ -74,16 +75,16 @@ extern "C"
     /*
      * Sends a local file to a folder of the phone, with its size and the time now (UTC). Unlike with the other
      * functions, the result is 0 if any error bit is set. The phone's answers to the packets are not looked at: only a
-     * missing answer ends the transfer. A missing local file, or one that is a folder or larger than 4 GiB, sends
-     * nothing. A local file that becomes shorter in the middle ends short on the phone. An empty name or local folder
-     * does nothing.
+     * missing answer ends the transfer. A missing local file, or one that is no plain file or of 4 GiB and more, sends
+     * nothing. What cannot be read of the local file is left out: such a file arrives short, or empty, without an
+     * error. An empty name or local folder does nothing.
      */
     TANDEKOR_API uint8_t TANDEKOR_OBEX_SendFile(ResourceContext hResourceContext, const char* psLocalFolder,
                                                 const char* psFileName, const char* psPhoneFolder,
                                                 uint16_t* piObexError);
 
     /*
-     * Deletes a file or an empty folder of the phone. Of the phone's refusals only Not Found is an error here. An empty
+     * Deletes an object of the phone. Of the phone's refusals only Not Found is an error here. An empty
      * name does nothing.
      */
     TANDEKOR_API uint8_t TANDEKOR_OBEX_DeleteFile(ResourceContext hResourceContext, const char* psPhoneFolder,
@@ -112,7 +113,7 @@ extern "C"
                                                const char* psFileName, uint32_t iFirstPermissions,
                                                uint32_t iSecondPermissions, uint16_t* piObexError);
 
-    /* The free space of the phone in bytes. *piFreeSpace is written only without an error. */
+    /* The free space of the phone, in the phone's unit. *piFreeSpace is written if the phone tells it. */
     TANDEKOR_API uint8_t TANDEKOR_OBEX_FreeSpaceCheck(ResourceContext hResourceContext, uint32_t* piFreeSpace,
                                                       uint16_t* piObexError);
 

@@ -84,7 +84,7 @@ bool ObexChannel::EndOfBodyFollows() const
     return reply.Complete() && reply.PassConnectionId(connectionId) && reply.NextIs(endOfBodyHeader);
 }
 
-// What cannot be written to the host file is dropped, and the transfer goes on.
+// From the first data on that cannot be written to the host file all are dropped, and the transfer goes on.
 bool ObexChannel::GetFileToHost(const char* psFileName, const char* psLocalFolder, uint16_t* responseCode)
 {
     *responseCode = 0;
@@ -93,6 +93,7 @@ bool ObexChannel::GetFileToHost(const char* psFileName, const char* psLocalFolde
     const JoinedPath hostPath(psLocalFolder, psFileName);
     if (!hostPath.Fits())
         return false;
+    bool written = false;
     for (bool first = true;; first = false)
     {
         if (!ContinueGet(
@@ -113,10 +114,8 @@ bool ObexChannel::GetFileToHost(const char* psFileName, const char* psLocalFolde
             return false;
         const uint8_t* data = packetBuffer.ResponseFrom(reply.Position() + 3);
         const size_t count = headerLength - 3u;
-        if (first)
-            platform::ReplaceFile(hostPath.Text(), data, count);
-        else
-            platform::AppendToFile(hostPath.Text(), data, count);
+        written = first ? platform::OverwriteFile(hostPath.Text(), data, count)
+                        : written && platform::AppendToFile(hostPath.Text(), data, count);
     }
 }
 

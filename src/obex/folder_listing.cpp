@@ -1,6 +1,5 @@
 // The listing of a folder: an OBEX Get whose object goes to the caller's buffer unread.
 #include <algorithm>
-#include <cstring>
 
 #include "obex/obex_session.h"
 #include "obex/reply_reader.h"
@@ -61,12 +60,13 @@ bool ObexChannel::GetFolderListing(uint8_t* pListing, uint32_t* piListingSize, u
             reply.Skip(5);
         }
         // The data go to the end of the packet, whatever the length of the Body header is.
-        if (!reply.NextIs(bodyHeader))
+        uint16_t unused = 0;
+        if (!reply.NextIs(bodyHeader) || !reply.WordFollows(&unused))
             return false;
         reply.Skip(3);
         const auto count = static_cast<uint32_t>(reply.Left());
         const uint32_t taken = std::min(count, capacity - received);
-        std::memcpy(pListing + received, packetBuffer.ResponseFrom(reply.Position()), taken);
+        std::copy_n(packetBuffer.ResponseFrom(reply.Position()), taken, pListing + received);
         received += taken;
         if (taken < count)
         {

@@ -241,7 +241,7 @@ uint8_t ObexChannel::FreeSpaceCheck(uint32_t* piFreeSpace, uint16_t* piObexError
                      });
 }
 
-// The value is the last four bytes of the reply, whose length is taken from its low byte alone.
+// The value is the last four bytes of the reply, which is shorter than 256 bytes.
 bool ObexChannel::QueryFreeSpace(uint32_t* piFreeSpace, uint16_t* responseCode)
 {
     constexpr uint8_t query[] = {applicationParametersHeader, 0x00, 0x06, freeSpaceTag, 0x01, 0x02};
@@ -254,7 +254,7 @@ bool ObexChannel::QueryFreeSpace(uint32_t* piFreeSpace, uint16_t* responseCode)
     if (*responseCode == successCode)
     {
         const int length = packetBuffer.ResponseAt(2);
-        if (length < 3 + 4 || length > packetBuffer.ResponseLength())
+        if (packetBuffer.ResponseAt(1) != 0 || length < 3 + 4 || length > packetBuffer.ResponseLength())
             return false;
         *piFreeSpace = 0;
         for (int i = length - 4; i < length; ++i)

@@ -9,10 +9,17 @@ namespace tandekor::platform
 namespace
 {
 
+constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE;
+
+// A folder cannot be opened so.
+HANDLE OpenForReading(const char* path)
+{
+    return ::CreateFileA(path, GENERIC_READ, shared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 bool WriteToFile(const char* path, DWORD access, DWORD disposition, const void* bytes, size_t count)
 {
-    const HANDLE file
-        = ::CreateFileA(path, access, FILE_SHARE_READ, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = ::CreateFileA(path, access, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     DWORD written = 0;
@@ -24,18 +31,19 @@ bool WriteToFile(const char* path, DWORD access, DWORD disposition, const void* 
 
 bool FileSize(const char* path, uint64_t* size)
 {
-    WIN32_FILE_ATTRIBUTE_DATA status{};
-    if (::GetFileAttributesExA(path, GetFileExInfoStandard, &status) == 0
-        || (status.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) != 0)
+    const HANDLE file = OpenForReading(path);
+    if (file == INVALID_HANDLE_VALUE)
         return false;
-    *size = uint64_t{status.nFileSizeHigh} << 32 | status.nFileSizeLow;
-    return true;
+    LARGE_INTEGER length{};
+    const bool found = ::GetFileType(file) == FILE_TYPE_DISK && ::GetFileSizeEx(file, &length) != 0;
+    ::CloseHandle(file);
+    *size = static_cast<uint64_t>(length.QuadPart);
+    return found;
 }
 
 size_t ReadFromFile(const char* path, uint64_t position, void* bytes, size_t count)
 {
-    const HANDLE file = ::CreateFileA(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = OpenForReading(path);
     if (file == INVALID_HANDLE_VALUE)
         return 0;
     OVERLAPPED place{};
