@@ -68,7 +68,13 @@ void ForgetCalls()
 const std::vector<Exchange>& Exchanges() { return TheState().calls.exchanges; }
 
 const std::vector<std::string>& LogTexts() { return TheState().log.texts; }
-void ForgetLog() { TheState().log.texts.clear(); }
 std::optional<uint32_t> LogFlags() { return TheState().log.flags; }
+const std::vector<LogFlagsChange>& LogFlagsChanges() { return TheState().log.flagsChanges; }
+
+void ForgetLog()
+{
+    TheState().log.texts.clear();
+    TheState().log.flagsChanges.clear();
+}
 
 }  // namespace simulator

@@ -2,6 +2,7 @@
 // or the host library does wrong, and read what was asked of them. One process has one simulator with one phone.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -81,10 +82,23 @@ struct Phone
     uint32_t startTimeMs = 4000;       // from power or reset to the first answer
     uint32_t runOnTimeMs = 500;        // how long it lives on after its supply was dropped
     // Content by item number. 453: the mode in which the phone starts, 1 FTM; 447: Bluetooth address; 550: IMEI.
+    // The receiver of its one WCDMA band: 856 gain; 519, 859, 860 and 520, 861, 862 thresholds; 524, 865, 866 offsets;
+    // and 2499 of the GSM receiver.
     std::map<uint16_t, Bytes> nvItems = {
         {447, {0x01, 0x02, 0x03, 0xA0, 0xB0, 0xC0}},
         {453, {0}},
+        {519, {0x38, 0xFF}},
+        {520, {0x24, 0xFF}},
+        {524, {0x78, 0x00}},
         {550, {0x08, 0x4A, 0x09, 0x51, 0x24, 0x30, 0x32, 0x57, 0x81}},
+        {856, {0x0C, 0x00}},
+        {859, {0x60, 0xFF}},
+        {860, {0x88, 0xFF}},
+        {861, {0x4C, 0xFF}},
+        {862, {0x74, 0xFF}},
+        {865, {0xF0, 0x00}},
+        {866, {0x68, 0x01}},
+        {2499, Bytes(128)},
     };
     std::map<uint16_t, uint16_t> nvStatus;  // status by item number, where it is not 0: the item is refused with it
     std::map<uint32_t, uint8_t> memory;     // bytes by address; what is not there reads as 0
@@ -112,14 +126,14 @@ struct Phone
     UploadScript upload;
     // Value text by command name, as in {"+CMUT", "0"}. A command whose name is not here is answered with ERROR.
     std::map<std::string, std::string> atSettings = FreshAtSettings();
-    int64_t clockAhead = 0;                         // seconds by which its clock (+CCLK) is ahead of the calendar
-    int clockZone = 0;                              // quarters of an hour
+    int64_t clockAhead = 0;  // seconds by which its clock (+CCLK) is ahead of the calendar
+    int clockZone = 0;       // quarters of an hour
     SimCard card;
     std::map<std::string, bool> locks = {{"AO", false}, {"AI", false}, {"PN", false}, {"SC", false}};  // by facility
     // By reason, 0 to 5: state, class, and where a number is registered number, type and time.
     std::map<std::string, std::string> forwardings;
     bool callWaiting = false;
-    std::string pressedKeys;  // by +CKPD so far
+    std::string pressedKeys;                                          // by +CKPD so far
     std::map<uint32_t, SimulatedMessage> messages = FreshMessages();  // by place
     // The file server, on the port in OBEX mode. Files and folders by path, as in "Pictures/Holiday/beach.jpg".
     std::map<std::string, SimulatedFile> files = FreshFiles();
@@ -184,10 +198,19 @@ struct Exchange
 };
 const std::vector<Exchange>& Exchanges();
 
-// The texts that were given to the text log, as they were given, muted or not; and the flags set last.
+// The texts that were given to the text log, as they were given, muted or not; the flags set last; and all flags that
+// were set, each with the number of texts in front of it.
+struct LogFlagsChange
+{
+    uint32_t flags;
+    size_t textsBefore;
+
+    bool operator==(const LogFlagsChange&) const = default;
+};
 const std::vector<std::string>& LogTexts();
-void ForgetLog();
 std::optional<uint32_t> LogFlags();
+const std::vector<LogFlagsChange>& LogFlagsChanges();
+void ForgetLog();  // texts and changes of the flags
 
 // --- played clock and boot box, in programs that are linked with them
 

@@ -49,7 +49,9 @@ uint8_t QLIB_StartLogging(ResourceContext, const char* sLogFile)
 
 uint8_t QLIB_SetLogFlags(ResourceContext, uint32_t iFlags)
 {
-    TheState().log.flags = iFlags;
+    LogState& log = TheState().log;
+    log.flags = iFlags;
+    log.flagsChanges.push_back({iFlags, log.texts.size()});
     return 1;
 }
 

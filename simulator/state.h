@@ -91,6 +91,7 @@ struct LogState
     std::ofstream file;
     std::vector<std::string> texts;
     std::optional<uint32_t> flags;
+    std::vector<LogFlagsChange> flagsChanges;
 };
 
 struct State

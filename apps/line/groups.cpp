@@ -6,13 +6,20 @@
 namespace tandekor::line
 {
 
+extern const Group pinsGroup, simGroup, cardGroup, radioGroup, displayGroup, cameraGroup;
+extern const Group audioGroup, keypadGroup, bluetoothGroup, chargingGroup, identityGroup, uploadGroup;
+extern const Group receiverGroup, transmitterGroup, signallingGroup, networkGroup;
 extern const Group startGroup, versionsGroup, identificationGroup, hardwareGroup, atGroup, phoneGroup, filesGroup,
     endGroup;
 
 std::span<const Group* const> Groups()
 {
-    static constexpr const Group* groups[] = {&startGroup, &versionsGroup, &identificationGroup, &hardwareGroup,
-                                              &atGroup,    &phoneGroup,    &filesGroup,          &endGroup};
+    static constexpr const Group* groups[]
+        = {&startGroup,   &versionsGroup, &identificationGroup, &hardwareGroup,    &pinsGroup,
+           &simGroup,     &cardGroup,     &radioGroup,          &displayGroup,     &cameraGroup,
+           &audioGroup,   &keypadGroup,   &bluetoothGroup,      &identityGroup,    &atGroup,
+           &phoneGroup,   &filesGroup,    &receiverGroup,       &transmitterGroup, &signallingGroup,
+           &networkGroup, &chargingGroup, &uploadGroup,         &endGroup};
     return groups;
 }
 

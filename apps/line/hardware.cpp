@@ -1,17 +1,12 @@
 // What the phone says about its own parts, by factory requests.
+#include "factory_request.h"
 #include "tandekor/ftm.h"
-#include "test.h"
 
 namespace tandekor::line
 {
 
 namespace
 {
-
-Outcome NotAnswered(const char* function)
-{
-    return Failed("no reply, or the phone refused the request\n%s gave 0", function);
-}
 
 Outcome HardwareVersion(Context& context)
 {

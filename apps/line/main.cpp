@@ -18,7 +18,7 @@ int main(int argc, char** argv)
         return statusPassed;
     }
     Selection selection;
-    if (const std::string problem = Select(commandLine.names, selection); !problem.empty())
+    if (const std::string problem = Select(commandLine.names, commandLine.options, selection); !problem.empty())
     {
         std::fprintf(stderr, "%s: %s\n", argv[0], problem.c_str());
         return statusBadOptions;

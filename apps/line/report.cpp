@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -52,7 +53,8 @@ void PrintList()
     {
         std::printf("%-20s%s\n", group->name, group->description);
         for (const Test& test : group->tests)
-            std::printf("  %-18s%s\n", test.name, test.description);
+            std::printf("  %-18s%s%s\n", test.name, test.description,
+                        test.lacks == nullptr ? "" : " (only by its own name)");
     }
 }
 
@@ -76,11 +78,16 @@ void Report::Heading(const Group& group) const
     std::fflush(stdout);
 }
 
-void Report::Progress(const Test& test, uint32_t elapsedMs) const
+void Report::Progress(const Test& test, uint32_t elapsedMs, int percent) const
 {
     if (!terminal)
         return;
-    std::printf("%s  ...     %6u s  %-16s  waits for the %s", startOfLine, elapsedMs / 1000, test.name, test.awaited);
+    std::printf("%s  ...     %6u s  %-16s  ", startOfLine, elapsedMs / 1000, test.name);
+    if (percent < 0)
+        std::printf("waits for the %s", test.awaited);
+    else
+        std::printf("[%-20s] %3d %%", std::string(static_cast<size_t>(std::min(percent, 100) / 5), '#').c_str(),
+                    percent);
     std::fflush(stdout);
 }
 

@@ -19,8 +19,9 @@ public:
 
     void Heading(const Group& group) const;
 
-    // A line that stands for the running test until its result is there; only on a terminal.
-    void Progress(const Test& test, uint32_t elapsedMs) const;
+    // A line that stands for the running test until its result is there; only on a terminal. A percentage below 0
+    // is not known.
+    void Progress(const Test& test, uint32_t elapsedMs, int percent) const;
 
     void Result(const Test& test, const Outcome& outcome, uint32_t elapsedMs);
     void NotRun(const Test& test, const char* reason);

@@ -54,8 +54,9 @@ void RunTest(const Test& test, Context& context, Report& report)
     const uintmax_t logStart = LogSize(context.options.logFile);
     const uint32_t start = station::Now();
     Outcome outcome{};
-    report.Progress(test, 0);
-    station::RunWithTicks([&] { outcome = test.run(context); }, [&] { report.Progress(test, station::Now() - start); });
+    report.Progress(test, 0, context.percent);
+    station::RunWithTicks([&] { outcome = test.run(context); },
+                          [&] { report.Progress(test, station::Now() - start, context.percent); });
     if (!outcome.passed && context.logStarted)
         outcome.text.append("\n").append(LastWords(context.options.logFile, logStart));
     report.Result(test, outcome, station::Now() - start);

@@ -53,7 +53,7 @@ bool AddNamed(const std::string& name, Selection& selection)
     {
         for (const Test& test : group->tests)
         {
-            if (name != group->name && name != test.name)
+            if (name != test.name && (name != group->name || test.lacks != nullptr))
                 continue;
             selection.insert(&test);
             found = true;
@@ -79,7 +79,7 @@ void AddFrame(Selection& selection)
 
 }  // namespace
 
-std::string Select(const std::vector<std::string>& names, Selection& selection)
+std::string Select(const std::vector<std::string>& names, const Options& options, Selection& selection)
 {
     for (const std::string& name : names)
     {
@@ -90,6 +90,11 @@ std::string Select(const std::vector<std::string>& names, Selection& selection)
     {
         for (const Group* group : Groups())
             AddNamed(group->name, selection);
+    }
+    for (const Test* test : selection)
+    {
+        if (const std::string problem = test->lacks == nullptr ? "" : test->lacks(options); !problem.empty())
+            return problem;
     }
     AddFrame(selection);
     return "";

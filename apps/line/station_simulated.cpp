@@ -24,6 +24,7 @@ void AddOptions(CLI::App& app)
 void Prepare(const Options& options)
 {
     simulator::ThePhone().on = false;
+    simulator::ThePhone().nvItems[2824] = simulator::Bytes(16, '7');  // serial number
     simulator::TheBootBox().ports = {options.bootBox};
     if (!refusedOperation.empty())
         simulator::RefuseCallsFrom(refusedOperation);

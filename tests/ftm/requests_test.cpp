@@ -6,9 +6,9 @@ namespace tandekor::test
 namespace
 {
 
-const std::vector<Request>& Requests()
+const std::vector<FtmRequest>& Requests()
 {
-    static const std::vector<Request> identificationAndSwitches = {
+    static const std::vector<FtmRequest> identificationAndSwitches = {
         {Call(TANDEKOR_FTM_GET_HARDWARE_VERSION), "4B 0B 00 80 0A 00 00 00 10 00",
          "TANDEKOR_FTM_GET_HARDWARE_VERSION()", 4},
         {Call(TANDEKOR_FTM_GET_HW_ID), "4B 0B 00 80 1D 00 00 00 0E 00", "TANDEKOR_FTM_GET_HW_ID()", 2},
@@ -43,9 +43,9 @@ const std::vector<Request>& Requests()
         {Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), "4B 0B 00 80 D9 00 02 00 0C 00 07 FF",
          "TANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
     };
-    static const std::vector<Request> requests = []
+    static const std::vector<FtmRequest> requests = []
     {
-        std::vector<Request> all = identificationAndSwitches;
+        std::vector<FtmRequest> all = identificationAndSwitches;
         for (const auto& more :
              {LowLevelRequests(), PhoneDataRequests(), FmRadioRequests(), DisplayAndCameraRequests()})
             all.insert(all.end(), more.begin(), more.end());
@@ -61,7 +61,7 @@ using FtmRequestsTest = FtmTest;
 std::vector<GuardedCall> FtmCalls()
 {
     std::vector<GuardedCall> calls;
-    for (const Request& request : Requests())
+    for (const FtmRequest& request : Requests())
         calls.push_back(request.call);
     calls.push_back(Call(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<int64_t>(15, -1)));
     return calls;
@@ -69,7 +69,7 @@ std::vector<GuardedCall> FtmCalls()
 
 TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryText)
 {
-    for (const Request& request : Requests())
+    for (const FtmRequest& request : Requests())
     {
         SCOPED_TRACE(request.entry);
         simulator::ForgetLog();
@@ -84,7 +84,7 @@ TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryText)
 
 TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
 {
-    for (const Request& request : Requests())
+    for (const FtmRequest& request : Requests())
     {
         if (request.valueBytes == ownProcedure)
             continue;

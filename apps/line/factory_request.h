@@ -1,0 +1,26 @@
+// What tests tell of factory requests without an answer.
+#pragma once
+
+#include "test.h"
+
+namespace tandekor::line
+{
+
+inline Outcome NotAnswered(const char* function)
+{
+    return Failed("no reply, or the phone refused the request\n%s gave 0", function);
+}
+
+// The requests of a test, one behind the other up to the first that fails.
+struct Requests
+{
+    const char* last = nullptr;
+
+    bool Fails(const char* function, uint8_t result)
+    {
+        last = function;
+        return result == 0;
+    }
+};
+
+}  // namespace tandekor::line

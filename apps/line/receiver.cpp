@@ -1,0 +1,117 @@
+// The receiver, as an application that adjusts it would ask: it measures, and works the corrections out itself.
+#include "radio_values.h"
+#include "tandekor/procedures.h"
+#include "test.h"
+
+namespace tandekor::line
+{
+
+namespace
+{
+
+constexpr uint16_t wcdmaBand = 4;  // the set of NV items of the phone's WCDMA band
+constexpr uint16_t lnaOffsetItems[] = {524, 865, 866};
+constexpr uint16_t startModeItem = 453;
+constexpr uint8_t lnaRange = 0;
+
+int16_t WordAt(const uint8_t* bytes) { return static_cast<int16_t>(bytes[0] | bytes[1] << 8); }
+
+Outcome Gsm(Context& context)
+{
+    constexpr int16_t rxFunction = 0;
+    uint8_t offsets[128] = {};
+    int16_t rssi[4] = {};  // the host library may write more than the first one
+    if (TANDEKOR_RX_GSM_Adjust(context.handle, offsets, modeGsm900, channelGsm900, burstSlot, rxFunction, lnaRange,
+                               rssi)
+        == 0)
+        return Failed("the receiver could not be measured\nTANDEKOR_RX_GSM_Adjust gave 0");
+    return Passed("RSSI %d on channel %u, LNA range %u", rssi[0], channelGsm900, lnaRange);
+}
+
+struct WcdmaValues
+{
+    int16_t dvga[4] = {};  // as above
+    uint8_t fall[3][2] = {};
+    uint8_t rise[3][2] = {};
+    int16_t lnaOffset = 0;
+    uint8_t item[2] = {};
+};
+
+// Stores the gain of --vga-gain on the way, and the start mode as it stands in FTM mode; reads one item of 2 bytes.
+bool Measure(const Context& context, uint16_t item, WcdmaValues& values)
+{
+    constexpr int16_t expectedAgc = -106;
+    constexpr uint16_t lnaIndex = 0;
+    uint8_t startMode[] = {1};
+    uint16_t writeStatus = 0;
+    uint16_t readStatus = 0;
+    return TANDEKOR_RX_WCDMA_Adjust(context.handle, lnaRange, expectedAgc, values.dvga, startModeItem, startMode, 1,
+                                    &writeStatus, wcdmaBand, *context.options.vgaGain, nullptr, wcdmaBand,
+                                    values.fall[0], values.fall[1], values.fall[2], item, values.item, 2, &readStatus,
+                                    wcdmaBand, values.rise[0], values.rise[1], values.rise[2], lnaIndex, expectedAgc,
+                                    &values.lnaOffset)
+               != 0
+           && writeStatus == 0 && readStatus == 0;
+}
+
+Outcome NotMeasured()
+{
+    return Failed(
+        "the receiver could not be measured, or an item not read\nTANDEKOR_RX_WCDMA_Adjust gave 0 or a status");
+}
+
+Outcome Wcdma(Context& context)
+{
+    WcdmaValues values;
+    if (!Measure(context, lnaOffsetItems[0], values))
+        return NotMeasured();
+    return Passed("DVGA offset %d, LNA offset %d; thresholds fall %d %d %d, rise %d %d %d", values.dvga[0],
+                  values.lnaOffset, WordAt(values.fall[0]), WordAt(values.fall[1]), WordAt(values.fall[2]),
+                  WordAt(values.rise[0]), WordAt(values.rise[1]), WordAt(values.rise[2]));
+}
+
+// The offsets are stored as they stand in the phone; the tables stay alone.
+Outcome Store(Context& context)
+{
+    int16_t offsets[3] = {};
+    for (int i = 0; i < 3; ++i)
+    {
+        WcdmaValues values;
+        if (!Measure(context, lnaOffsetItems[i], values))
+            return NotMeasured();
+        offsets[i] = WordAt(values.item);
+    }
+    constexpr uint8_t batch = 1;
+    if (TANDEKOR_Write_RX_Adjustment_Values(context.handle, batch, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                            nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                            nullptr, nullptr, wcdmaBand, offsets[0], nullptr, offsets[1], nullptr,
+                                            offsets[2], nullptr, wcdmaBand, *context.options.vgaGain, nullptr)
+        == 0)
+        return Failed("the calibration could not be stored\nTANDEKOR_Write_RX_Adjustment_Values gave 0");
+    return Passed("LNA offsets %d %d %d stored as they were, gain %u", offsets[0], offsets[1], offsets[2],
+                  *context.options.vgaGain);
+}
+
+std::string LacksVgaGain(const Options& options)
+{
+    return options.vgaGain ? "" : "rx-wcdma and rx-store store a gain: --vga-gain";
+}
+
+constexpr Test tests[] = {
+    {"rx-gsm", "measures the GSM receiver", Gsm},
+    {.name = "rx-wcdma",
+     .description = "measures the WCDMA receiver and stores --vga-gain",
+     .run = Wcdma,
+     .lacks = LacksVgaGain},
+    {.name = "rx-store",
+     .description = "stores the LNA offsets as they are, and --vga-gain",
+     .run = Store,
+     .lacks = LacksVgaGain},
+};
+
+}  // namespace
+
+extern const Group receiverGroup;
+constinit const Group receiverGroup{"receiver", "the receiver; its calibration is stored by name only", tests};
+
+}  // namespace tandekor::line

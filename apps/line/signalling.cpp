@@ -1,0 +1,114 @@
+// Test calls with the tester that the phone's aerial is connected to.
+#include "online_mode.h"
+#include "radio_values.h"
+#include "tandekor/procedures.h"
+#include "test.h"
+
+namespace tandekor::line
+{
+
+namespace
+{
+
+constexpr uint8_t openSession = 1;
+constexpr uint8_t closeSession = 1;
+constexpr uint32_t timeOutMs = 5000;
+constexpr uint8_t slot = 3;
+
+Outcome Gsm(Context& context)
+{
+    constexpr uint8_t fullRate = 1;
+    constexpr uint8_t powerLevel = 5;
+    constexpr uint8_t loopback = 0;
+    uint8_t level = 0;
+    uint8_t quality = 0;
+    if (TANDEKOR_Reduced_Signalling_GSM(context.handle, &level, &quality, channelGsm900, bandGsm900, trainingSequence,
+                                        slot, fullRate, powerLevel, loopback, openSession, channelGsm900, bandGsm900,
+                                        timeOutMs, loopback, slot, fullRate, closeSession)
+        == 0)
+        return Failed("no GSM test call on channel %u\nTANDEKOR_Reduced_Signalling_GSM gave 0", channelGsm900);
+    return Passed("channel %u: level %u, quality %u in front of the call", channelGsm900, level, quality);
+}
+
+Outcome Wcdma(Context& context)
+{
+    constexpr uint8_t rmc12Point2 = 0;  // kbit/s
+    constexpr uint8_t maxTxPower = 24;  // dBm
+    constexpr uint32_t uplinkScrambling = 0;
+    constexpr uint8_t powerControl = 0;
+    constexpr uint8_t stepSize = 1;  // dB
+    constexpr uint16_t primaryScrambling = 9;
+    constexpr uint16_t channelCode = 9;
+    uint8_t state = 0;
+    if (TANDEKOR_Reduced_Signalling_WCDMA(context.handle, channelWcdmaDownlink, timeOutMs, &state, rmc12Point2,
+                                          maxTxPower, uplinkScrambling, powerControl, stepSize, primaryScrambling,
+                                          channelCode)
+        == 0)
+        return Failed("no WCDMA test call on channel %u\nTANDEKOR_Reduced_Signalling_WCDMA gave 0",
+                      channelWcdmaDownlink);
+    return Passed("channel %u: state %u", channelWcdmaDownlink, state);
+}
+
+Outcome Hsdpa(Context& context)
+{
+    constexpr uint8_t everything = 0x0F;
+    constexpr uint16_t radioLink = 9;
+    constexpr uint16_t rnti = 0xAAAA;
+    constexpr uint8_t processes = 6;
+    constexpr uint8_t ownPartition = 0;  // the phone divides its memory
+    constexpr uint8_t cqiCycle = 2;      // ms
+    constexpr uint8_t delta = 5;
+    uint8_t codes[] = {1, 2, 3, 4};
+    uint8_t state = 0;
+    if (TANDEKOR_Reduced_Signalling_HSDPA(context.handle, everything, radioLink, sizeof codes, codes, rnti, processes,
+                                          ownPartition, nullptr, 0, cqiCycle, 1, delta, delta, delta, 1, &state)
+        == 0)
+        return Failed("no HSDPA test call\nTANDEKOR_Reduced_Signalling_HSDPA gave 0");
+    return Passed("%zu codes, %u processes: state %u", sizeof codes, processes, state);
+}
+
+Outcome Edge(Context& context)
+{
+    constexpr uint8_t flow = 1;
+    constexpr uint8_t secondSlot = slot + 1;
+    constexpr uint8_t uplinkState = 0;
+    constexpr uint8_t gamma = 3;
+    constexpr uint32_t reserved = 0;
+    uint8_t state = 0;
+    uint8_t level = 0;
+    if (TANDEKOR_Reduced_Signalling_EDGE(context.handle, openSession, channelGsm900, bandGsm900, timeOutMs,
+                                         trainingSequence, flow, reserved, reserved, 1, slot, 0, secondSlot,
+                                         trainingSequence, uplinkState, gamma, reserved, reserved, reserved, reserved,
+                                         &state, &level)
+        == 0)
+        return Failed("no EDGE test call on channel %u\nTANDEKOR_Reduced_Signalling_EDGE gave 0", channelGsm900);
+    return Passed("channel %u, slot %u: state %u, level %u", channelGsm900, slot, state, level);
+}
+
+Outcome CallOnline(Context& context)
+{
+    uint8_t number[] = {'1', '2', '3', '4', '5', '6'};  // any that the tester takes
+    if (TANDEKOR_StartCall(context.handle, sizeof number, number) == 0)
+        return Failed("the call could not be begun, or not be ended\nTANDEKOR_StartCall gave 0");
+    return Passed("begun and ended, %zu digits", sizeof number);
+}
+
+Outcome Call(Context& context) { return RunOnline(context, CallOnline); }
+
+constexpr Test tests[] = {
+    {"gsm-call", "stages of a GSM test call", Gsm},
+    {"wcdma-call", "stages of a WCDMA test call", Wcdma},
+    {"hsdpa-call", "stages of an HSDPA test call", Hsdpa},
+    {"edge-call", "stages of an EDGE test call", Edge},
+    {.name = "call",
+     .description = "begins and ends a GSM call of the phone online",
+     .run = Call,
+     .awaited = "phone to change its mode"},
+};
+
+}  // namespace
+
+extern const Group signallingGroup;
+constinit const Group signallingGroup{"signalling", "test calls; a tester is connected to the phone", tests};
+
+}  // namespace tandekor::line

@@ -1,0 +1,60 @@
+// An upload, which the host library has only in its QPST mode.
+#include <atomic>
+
+#include "tandekor/tandekor.h"
+#include "test.h"
+
+namespace tandekor::line
+{
+
+namespace
+{
+
+// What the library's callback was told; it has no room for a context of its own.
+struct
+{
+    std::atomic<int>* percent;
+    uint32_t status;
+    int reports;
+} told;
+
+void Progress(uint32_t status, uint32_t percent)
+{
+    told.status = status;
+    ++told.reports;
+    *told.percent = static_cast<int>(percent);
+}
+
+// No AT command and no file can be had in the QPST mode, so it does not outlast the test.
+Outcome Upload(Context& context)
+{
+    told = {&context.percent, 0, 0};
+    const std::string& file = context.options.uploadFile;
+    TANDEKOR_SetLibraryMode(1);
+    TANDEKOR_SetCallback(context.handle, Progress);
+    const uint8_t result
+        = TANDEKOR_UploadCEFS_File(context.handle, reinterpret_cast<TandekorUploadArgument>(file.c_str()), 0);
+    TANDEKOR_SetCallback(context.handle, nullptr);
+    TANDEKOR_SetLibraryMode(0);
+    const int percent = context.percent.exchange(-1);
+    if (result == 0)
+        return Failed("the upload of %s broke off at %d %%, status %u\nTANDEKOR_UploadCEFS_File gave 0", file.c_str(),
+                      percent < 0 ? 0 : percent, told.status);
+    if (TANDEKOR_GetLibraryMode() != 0)
+        return Failed("the host library stays in its QPST mode\nTANDEKOR_GetLibraryMode gave 1");
+    return Passed("complete, last status %u, told %d times", told.status, told.reports);
+}
+
+constexpr Test tests[] = {
+    {.name = "upload",
+     .description = "uploads a file system image, in the QPST mode",
+     .run = Upload,
+     .awaited = "host library to upload"},
+};
+
+}  // namespace
+
+extern const Group uploadGroup;
+constinit const Group uploadGroup{"upload", "an upload to the phone", tests};
+
+}  // namespace tandekor::line

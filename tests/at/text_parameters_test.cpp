@@ -1,0 +1,212 @@
+#include "tests/at/buffered_call.h"
+
+namespace tandekor::test
+{
+
+namespace
+{
+
+const std::string password("\1\2\3\4");
+const std::string noPassword("-xyz");
+constexpr size_t most = 1366;
+
+const BufferedCall getClck = With(TANDEKOR_AT_Get_CLCK, {"SCX", Out{most}, Out{most * 4}});
+const BufferedCall getSlck = With(TANDEKOR_AT_Get_SLCK, {"PN", Out{most}, Out{most * 4}});
+const BufferedCall getCpin = With(TANDEKOR_AT_Get_CPIN, {Out{16}});
+const BufferedCall getCcfc
+    = With(TANDEKOR_AT_Get_CCFC, {12, Out{600 * 4}, Out{600 * 4}, Out{600 * 12}, Out{600 * 4}, Out{600 * 4}});
+const BufferedCall getCsca = With(TANDEKOR_AT_Get_CSCA, {Out{50}, Out{50}});
+const BufferedCall getCscb = With(TANDEKOR_AT_Get_CSCB, {Out{1}, Out{4097}, Out{4097}});
+const BufferedCall getCscs = With(TANDEKOR_AT_Get_CSCS, {Out{16}});
+
+BufferedCall SetCcwa(int n, int mode, int classNumber)
+{
+    return With(TANDEKOR_AT_Set_CCWA, {n, mode, classNumber, Out{most * 4}, Out{most * 4}});
+}
+BufferedCall Crsm(int command, int fileId, int p1, int p2, int p3, const std::string& data)
+{
+    return With(TANDEKOR_AT_CRSM, {command, fileId, p1, p2, p3, data, Out{4}, Out{4}, Out{4096}});
+}
+const BufferedCall crsmStatus = Crsm(242, -1, 0, 0, 0, "-");
+
+const std::vector<SentCommand> commands = {
+    {With(TANDEKOR_AT_Set_CKPD, {"123", 5, 0xFFFF}), "AT+CKPD=123,5",
+     "TANDEKOR_AT_Set_CKPD(Keys: 123, Time: 5, Pause: 65535)"},
+    {With(TANDEKOR_AT_Set_CKPD, {"%s#", 0xFFFF, 5}), "AT+CKPD=%s#",
+     "TANDEKOR_AT_Set_CKPD(Keys: %s#, Time: 65535, Pause: 5)"},
+    {With(TANDEKOR_AT_Set_CKPD, {"*", 0, 65534}), "AT+CKPD=*,0,65534",
+     "TANDEKOR_AT_Set_CKPD(Keys: *, Time: 0, Pause: 65534)"},
+    {With(TANDEKOR_AT_Set_CLCK, {"SC", 1, password, 7}), "AT+CLCK=\"SC\",1,1234,7", "TANDEKOR_AT_Set_CLCK()", 40000},
+    {With(TANDEKOR_AT_Set_CLCK, {"AOX", 12, "1\12\x63\xFF", -1}), "AT+CLCK=\"AO\",1,4192", "TANDEKOR_AT_Set_CLCK()",
+     40000},
+    {With(TANDEKOR_AT_Set_CLCK, {"S", 0, noPassword, 7}), "AT+CLCK=\"S\",0", "TANDEKOR_AT_Set_CLCK()", 40000},
+    {With(TANDEKOR_AT_Set_CLCK, {"SC", 2, password, 7}), "AT+CLCK=\"SC\",2", "TANDEKOR_AT_Set_CLCK()", 40000},
+    {With(TANDEKOR_AT_Set_SLCK, {"PN", 1, password, 128}), "AT^SLCK=\"PN\",1,1234,128", "TANDEKOR_AT_Set_SLCK()",
+     40000},
+    {With(TANDEKOR_AT_Set_SLCK, {"PN", 1, password, 0}), "AT^SLCK=\"PN\",1,1234,0", "TANDEKOR_AT_Set_SLCK()", 40000},
+    {getClck, "AT+CLCK=\"SC\",2", "TANDEKOR_AT_Get_CLCK()", 5000},
+    {getSlck, "AT^SLCK=\"PN\",2", "TANDEKOR_AT_Get_SLCK()", 5000},
+    {getCpin, "AT+CPIN?", "TANDEKOR_AT_Get_CPIN()"},
+    {With(TANDEKOR_AT_Set_CPIN, {"1234", "-"}), "AT+CPIN=\"1234\"", "TANDEKOR_AT_Set_CPIN()"},
+    {With(TANDEKOR_AT_Set_CPIN, {"12345678", "98765"}), "AT+CPIN=\"12345678\",\"9876\"", "TANDEKOR_AT_Set_CPIN()"},
+    {With(TANDEKOR_AT_Set_CPIN, {"", "98"}), "AT+CPIN=\"\",\"98\"", "TANDEKOR_AT_Set_CPIN()"},
+    {With(TANDEKOR_AT_Set_CCFC, {0, 3, "12345678901234567890", 145, 10, 20}), "AT+CCFC=0,3,\"123456789012\",145,10,2",
+     "TANDEKOR_AT_Set_CCFC()", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {2, 3, "+49", 255, -1, -1}), "AT+CCFC=2,3,\"+49\"", "TANDEKOR_AT_Set_CCFC()", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {2, 3, "+49", 255, 1, 5}), "AT+CCFC=2,3,\"+49\",1,5", "TANDEKOR_AT_Set_CCFC()", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {12, 4, "-", 145, 7, 5}), "AT+CCFC=1,4", "TANDEKOR_AT_Set_CCFC()", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {0, 2, "+49", 145, 7, 5}), "AT+CCFC=0,2", "TANDEKOR_AT_Set_CCFC()", 25000},
+    {getCcfc, "AT+CCFC=1,2", "TANDEKOR_AT_Get_CCFC()", 10000},
+    {SetCcwa(255, 2, 7), "AT+CCWA", "TANDEKOR_AT_Set_CCWA()", 20000},
+    {SetCcwa(1, 255, 7), "AT+CCWA=1", "TANDEKOR_AT_Set_CCWA()", 20000},
+    {SetCcwa(1, 2, -1), "AT+CCWA=1,2", "TANDEKOR_AT_Set_CCWA()", 20000},
+    {SetCcwa(10, 20, 100), "AT+CCWA=1,2,100", "TANDEKOR_AT_Set_CCWA()", 20000},
+    {getCsca, "AT+CSCA?", "TANDEKOR_AT_Get_CSCA()"},
+    {With(TANDEKOR_AT_Set_CSCA, {"-1", "-"}), "AT+CSCA=\"-1\"", "TANDEKOR_AT_Set_CSCA()"},
+    {With(TANDEKOR_AT_Set_CSCA, {std::string(60, '1'), std::string(60, '2')}),
+     "AT+CSCA=\"" + std::string(60, '1') + "\",\"" + std::string(50, '2') + "\"", "TANDEKOR_AT_Set_CSCA()"},
+    {getCscb, "AT+CSCB?", "TANDEKOR_AT_Get_CSCB()"},
+    {With(TANDEKOR_AT_Set_CSCB, {255, "1", "\1"}), "AT+CSCB", "TANDEKOR_AT_Set_CSCB()"},
+    {With(TANDEKOR_AT_Set_CSCB, {10, "-1", "\1"}), "AT+CSCB=1", "TANDEKOR_AT_Set_CSCB()"},
+    {With(TANDEKOR_AT_Set_CSCB, {0, "0,5,320-478", "-"}), "AT+CSCB=0,\"0,5,320-478\"", "TANDEKOR_AT_Set_CSCB()"},
+    {With(TANDEKOR_AT_Set_CSCB, {1, "", "\1\x0C\xC8"}), "AT+CSCB=1,\"\",\"112\"", "TANDEKOR_AT_Set_CSCB()"},
+    {getCscs, "AT+CSCS?", "TANDEKOR_AT_Get_CSCS()"},
+    {With(TANDEKOR_AT_Set_CSCS, {"-"}), "AT+CSCS", "TANDEKOR_AT_Set_CSCS()"},
+    {With(TANDEKOR_AT_Set_CSCS, {"12345678901234567"}), "AT+CSCS=\"1234567890123456\"", "TANDEKOR_AT_Set_CSCS()"},
+    {Crsm(176, 28421, 0, 10, 255, "\1\2\x0C"), "AT+CRSM=176,28421,0,1,2,121", "TANDEKOR_AT_CRSM()"},
+    {Crsm(7, 0, 1, 2, 3, "-\1"), "AT+CRSM=007,0,1,2,3", "TANDEKOR_AT_CRSM()"},
+    {Crsm(0, 12258, 1, -1, 3, "\1"), "AT+CRSM=000,12258", "TANDEKOR_AT_CRSM()"},
+    {Crsm(255, -1, 1, 2, 3, "\1"), "AT+CRSM=255", "TANDEKOR_AT_CRSM()"},
+};
+
+const Bytes untouched = {};
+const Bytes none = Ascii("-");  // a field that the reply does not hold, without a NUL
+const uint32_t noNumber = UINT32_MAX;
+
+// A state of call forwarding behind its echo.
+std::string Forwarding(const std::string& lines) { return "AT+CCFC=1,2\r\r\n+CCFC: " + lines + "\r\n\r\nOK"; }
+std::string Centre(const std::string& fields) { return "AT+CSCA?\r\r\n+CSCA: \"" + fields; }
+
+const std::vector<ReadReply> replies = {
+    {getClck, Reply("AT+CLCK=\"SC\",2", "+CLCK: 1"), {{'1'}, U32(noNumber), U32(1)}},
+    {getClck,
+     Reply("AT+CLCK=\"AO\",2", "+CLCK: 0,1\r\n+CLCK: 1,2\r\n+CLCK: 1,16"),
+     {{'0', '1', '1'}, U32('1', '2', '1'), U32(3)}},
+    {getSlck, Reply("AT^SLCK=\"PN\",2", "^SLCK: 0,7"), {{'0'}, U32('7'), U32(1)}},
+    // Without echo the first colon lies in front of the place where the walk begins.
+    {getClck, Reply("", "+CLCK: 0,1\r\n+CLCK: 1,2"), {{'1'}, U32('2'), U32(1)}},
+    {getClck, "AT+CLCK=\"SC\",2\r\r\n+CLCK: 1,", {{'1'}, U32(noNumber), U32(1)}},
+    {getClck, "AT+CLCK=\"SC\",2\r\r\n+CLCK: ", {untouched, untouched, U32(0)}},
+    {getClck, "AT+CLCK=\"SC\",2\r\r\nERROR", {untouched, untouched, U32(0)}},
+    {getClck, "", {untouched, untouched, U32(0)}},
+    {getCpin, Reply("AT+CPIN?", "+CPIN: SIM PIN"), {Text("SIM PIN")}},
+    {getCpin, Reply("", "+CPIN: READY"), {Text("READY")}},
+    {getCpin, "AT+CPIN?\r\r\n+CPIN: 12345678901234567890", {Text("123456789012345")}},
+    {getCpin, "AT+CPIN?\r\r\nERROR", {Text("")}},
+    {getCscs, Reply("AT+CSCS?", "+CSCS: \"UCS2\""), {Text("UCS2")}},
+    {getCscs, Reply("", "+CSCS: \"1234567890123456\""), {Text("123456789012345")}},
+    {getCscs, "AT+CSCS?\r\r\n+CSCS: \"GS", {Text("GS")}},
+
+    {getCcfc, Forwarding("1,7,+4930123456,145,20"), {U32(1), U32(7), Ascii("+4930123456"), U32(145), U32(20), U32(1)}},
+    {getCcfc, Reply("", "+CCFC: 0,255"), {U32(0), U32(255), none, U32(noNumber), U32(noNumber), U32(1)}},
+    {getCcfc, Forwarding("1,7,\"+4930123456\",145"), {U32(1), U32(7), none, U32(noNumber), U32(noNumber), U32(1)}},
+    {getCcfc, Forwarding("1,,555,,20"), {U32(1), U32(0), Ascii("555"), U32(noNumber), U32(noNumber), U32(1)}},
+    {getCcfc, Forwarding("1,7,555,129,x"), {U32(1), U32(7), Ascii("555"), U32(129), U32(noNumber), U32(1)}},
+    {getCcfc,
+     Forwarding("1,1,+,129,5;2 0,2,12345678901234,145,6\r\n+CCFC: 1,4"),
+     {U32(1, 0), U32(1, 2), Ascii("+UUUUUUUUUUU123456789012"), U32(129, 145), U32(5, 6), U32(2)}},
+    {getCcfc, "AT+CCFC=1,2\r\r\n\r\nOK", {untouched, untouched, untouched, untouched, untouched, U32(0)}},
+    {getCcfc, "AT+CCFC=1,2\r\r\n+CCFC: 1,7\r\nERROR", {}},
+    {getCcfc, "AT+CCFC=1,2\r\r\n+CCFC: 1,7", {}},
+
+    {SetCcwa(1, 2, -1), Reply("AT+CCWA=1,2", "+CCWA: 1,1\r\n+CCWA: 0,4"), {U32(1, 0), U32(1, 4), U32(2)}},
+    {SetCcwa(255, 2, -1), Reply("AT+CCWA", "\r\n+CCWA: 1,64"), {U32(1), U32(64), U32(1)}},
+    {SetCcwa(1, 1, -1), Reply("AT+CCWA=1,1", "+CCWA: 1,1"), {}},
+    {SetCcwa(1, 2, -1), "AT+CCWA=1,2\r\r\n+CCWA: 1,1\r\nERROR", {}},
+
+    {getCsca, Centre("+49172\",145\r\n\r\nOK"), {Text("+49172"), Text("145")}},
+    {getCsca, Centre("+49172\"\r\n\r\nOK"), {Text("+49172"), none}},
+    {getCsca, Centre(std::string(49, '1') + "\",145\r\n\r\nOK"), {Text(std::string(49, '1')), Text("145")}},
+    {getCsca, Centre(std::string(50, '1') + "x,145\r\n\r\nOK"), {Text(std::string(49, '1')), Text("145")}},
+    {getCsca, Centre("1\"," + std::string(49, '2') + "\r\n\r\nOK"), {Text("1"), Text(std::string(49, '2'))}},
+    {getCsca, Centre("1\"," + std::string(60, '2') + "\r\n\r\nOK"), {Text("1"), Bytes(50, '2')}},
+    {getCsca, Centre("+49"), {Text("+49"), none}},
+    {getCsca, Centre("+49\",14"), {Text("+49"), Text("14")}},
+    {getCscb, Reply("AT+CSCB?", "+CSCB: 1,\"0,5\",\"0-3\""), {{'1'}, Text("0,5"), Text("0-3")}},
+    {getCscb, Reply("", "+CSCB: 0,\"\",\"\""), {{'0'}, Text(""), Text("")}},
+    {getCscb, "AT+CSCB?\r\r\n+CSCB: 1,\"0,5", {{'1'}, Text("0,5"), Text("")}},
+    {getCscb, "", {{0xBB}, Text(""), Text("")}},
+    {getCscb, 'A' + std::string(4095, 'x'), {{'x'}, Text(std::string(4075, 'x')), Text("")}},
+
+    {crsmStatus, Reply("AT+CRSM=242", "+CRSM: 144,0,\"AB\""), {U32(144), U32(0), Ascii("AB\"")}},
+    {crsmStatus, Reply("", "+CRSM: 148,12"), {U32(148), U32(12), none}},
+    {crsmStatus, Reply("", "+CRSM: 144,x,\"\""), {U32(144), U32('x' - '0'), none}},
+    {crsmStatus, "\r\n+CRSM: 144,0,12AB", {U32(144), U32(0), Ascii("2AB")}},
+    // The digits of a long command's echo are read as the reply's.
+    {crsmStatus, Reply("AT+CRSM=176,28421", "+CRSM: 144,0"), {U32(1), U32('\r' - '0'), none}},
+    {crsmStatus, "AT+CRSM=242\r\r\n+CRSM: 14", {U32(14), U32(noNumber), none}},
+    {crsmStatus, "AT+CRSM=242\r\r\nERROR", {U32(noNumber), U32(noNumber), none}},
+};
+
+}  // namespace
+
+class AtTextParametersTest : public BufferedAtTest
+{
+};
+
+TEST_F(AtTextParametersTest, EveryCommandIsLoggedAndThenSentOnce) { ExpectSent(commands); }
+
+TEST_F(AtTextParametersTest, RepliesAreReadFieldByField) { ExpectRead(replies); }
+
+TEST_F(AtTextParametersTest, NoReplyLeadsAReaderOutOfItsBuffers)
+{
+    ExpectGuardsHold(commands, replies,
+                     {Dense("\r\n+CLCK", ": 1"), Dense("\r\n+CLCK", ": 1,"), Dense("\n", "0x,+,1,1,"),
+                      Dense("\r\n+CCWA:", "1,x "), Dense("AT+CRSM=242  144,0,\"", "x")});
+}
+
+// A command that outgrows the 4096 bytes of a request is logged, but not sent.
+TEST_F(AtTextParametersTest, TextsThatOutgrowTheRequestAreNotSent)
+{
+    const auto longest = [](size_t room, char fill = '5') { return std::string(4096 - 2 - room, fill); };
+    const auto plusOne = [](const std::string& text) { return text + text.back(); };
+    const std::string keys = longest(8);
+    const std::string pin = longest(10);
+    const std::string centre = longest(10);
+    const std::string identifiers = longest(12);
+    const std::string schemes = longest(15, '\5');
+    const std::string data = longest(20, '\5');
+    const struct
+    {
+        BufferedCall fits, outgrows;
+    } cases[] = {
+        {With(TANDEKOR_AT_Set_CKPD, {keys, 0xFFFF, 0}), With(TANDEKOR_AT_Set_CKPD, {plusOne(keys), 0xFFFF, 0})},
+        {With(TANDEKOR_AT_Set_CPIN, {pin, "-"}), With(TANDEKOR_AT_Set_CPIN, {plusOne(pin), "-"})},
+        {With(TANDEKOR_AT_Set_CSCA, {centre, "-"}), With(TANDEKOR_AT_Set_CSCA, {plusOne(centre), "-"})},
+        {With(TANDEKOR_AT_Set_CSCB, {1, identifiers, "-"}), With(TANDEKOR_AT_Set_CSCB, {1, plusOne(identifiers), "-"})},
+        {With(TANDEKOR_AT_Set_CSCB, {1, "", schemes}), With(TANDEKOR_AT_Set_CSCB, {1, "", plusOne(schemes)})},
+        {Crsm(1, 2, 3, 4, 5, data), Crsm(1, 2, 3, 4, 5, plusOne(data))},
+    };
+    for (const auto& row : cases)
+    {
+        simulator::ForgetLog();
+        simulator::ForgetCalls();
+        Replies("OK");
+        EXPECT_EQ(row.fits(handle).result, 1);
+        EXPECT_EQ(simulator::Exchanges().back().request.size(), 4096U);
+        const std::string logged = Log().front().substr(0, 25);
+
+        simulator::ForgetLog();
+        simulator::ForgetCalls();
+        const BufferedResult call = row.outgrows(handle);
+        EXPECT_EQ(call.result, 0);
+        EXPECT_EQ(call.outs.back(), Bytes(2, 0x55));
+        EXPECT_TRUE(simulator::Calls().empty());
+        ASSERT_EQ(Log().size(), 1U);
+        EXPECT_EQ(Log().front().substr(0, 25), logged);
+    }
+    EXPECT_EQ(With(TANDEKOR_AT_Set_CKPD, {std::string(20000, '5'), 1, 1})(handle).result, 0);
+    EXPECT_EQ(Log().back(), "TANDEKOR_AT_Set_CKPD(Keys: " + std::string(12291 - 27, '5'));
+}
+
+}  // namespace tandekor::test

@@ -1,0 +1,195 @@
+// SIM, memory card, factory data and RF items.
+#include "tests/ftm/ftm_test.h"
+
+namespace tandekor::test
+{
+
+namespace
+{
+
+const GuardedCall imsi = CallOn({Hex("00 01 02 03 04 05 06 07 FF")}, [](auto handle, const auto& buffers)
+                                { return TANDEKOR_FTM_SIM_READ_IMSI(handle, buffers[0]); });
+const GuardedCall simMode = Call(TANDEKOR_FTM_SIM_GET_MODE);
+
+// The file is a text without a NUL.
+GuardedCall KcFile(uint8_t (*function)(ResourceContext, uint8_t*, uint8_t*))
+{
+    return CallOn({Ascii("Kc file 9"), {3}},
+                  [function](auto handle, const auto& buffers) { return function(handle, buffers[0], buffers[1]); });
+}
+const GuardedCall readKc = KcFile(TANDEKOR_FTM_SIM_READ_KC_FILE), writeKc = KcFile(TANDEKOR_FTM_SIM_WRITE_KC_FILE);
+
+GuardedCall Card(uint8_t accessType, const Bytes& data, const std::string& name = "Test.bin")
+{
+    return CallOn({data}, [=, size = static_cast<uint16_t>(data.size())](auto handle, const auto& buffers)
+                  { return TANDEKOR_FTM_MMC_FILE_ACCESS(handle, accessType, size, name.c_str(), buffers[0]); });
+}
+
+// The bytes of a name on the wire.
+std::string Name(const std::string& name)
+{
+    Bytes bytes = Ascii(name);
+    bytes.resize(128);
+    return ToHex(bytes);
+}
+
+std::string CardText(int accessType, int length, const std::string& name = "Test.bin")
+{
+    return "TANDEKOR_FTM_MMC_FILE_ACCESS(iAccessType = " + std::to_string(accessType)
+           + ", iMMC_DataLength = " + std::to_string(length) + ", psFileName= '" + name + "')";
+}
+
+const GuardedCall writeFactoryByte = CallOn({},
+                                            [](auto handle, const auto&)
+                                            {
+                                                uint8_t data = 0xA7;
+                                                return TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(handle, 1, 0x0102, &data);
+                                            });
+
+const GuardedCall writeLinearizer
+    = CallOn({},
+             [](auto handle, const auto&)
+             {
+                 std::vector<uint16_t> values(174);
+                 for (size_t i = 0; i < values.size(); ++i)
+                     values[i] = static_cast<uint16_t>(0x8000 + i);
+                 return TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(handle, 2, values.data(), 60000);
+             });
+
+std::string LinearizerBytes()
+{
+    Bytes bytes = Hex("4B 0B 00 80 1A 00 5D 01 0C 00 02");
+    for (int i = 0; i < 174; ++i)
+        bytes.insert(bytes.end(), {static_cast<uint8_t>(i), 0x80});
+    return ToHex(bytes);
+}
+
+}  // namespace
+
+std::vector<FtmRequest> PhoneDataRequests()
+{
+    return {
+        {imsi, "4B 0B 00 80 11 00 00 00 15 00",
+         "TANDEKOR_FTM_SIM_READ_IMSI(iIMSI_number[9] = {0, 1, 2, 3, 4, 5, 6, 7, 255 })"},
+        {simMode, "4B 0B 00 80 CB 00 0A 00 0C 00", "TANDEKOR_FTM_SIM_GET_MODE(SIM_MODE = 85)"},
+        {readKc, "4B 0B 00 80 CC 00 16 00 16 00", "\nTANDEKOR_FTM_SIM_READ_KC_FILE(KC_File = Kc file 9, Status = 3)"},
+        {writeKc, "4B 0B 00 80 CD 00 16 00 16 00 00 00 09 4B 63 20 66 69 6C 65 20 39",
+         "\nTANDEKOR_FTM_SIM_WRITE_KC_FILE(KC_File = Kc file 9, Status = 3)"},
+        {Card(0, Bytes(4)), "4B 0B 00 80 12 00 85 00 10 00 00 04 00 00 00 " + Name("Test.bin"), CardText(0, 4)},
+        {Card(0, {}), "4B 0B 00 80 12 00 85 00 0C 00 00 00 00 00 00 " + Name("Test.bin"), CardText(0, 0)},
+        {Card(1, Hex("A1 B2")), "4B 0B 00 80 12 00 87 00 0C 00 01 02 00 00 00 " + Name("Test.bin") + " A1 B2",
+         CardText(1, 2)},
+        {Card(2, Hex("A1 B2")), "4B 0B 00 80 12 00 87 00 0C 00 02 02 00 00 00 " + Name("Test.bin"), CardText(2, 2)},
+        {Card(2, {}, std::string(128, 'n')),
+         "4B 0B 00 80 12 00 85 00 0C 00 02 00 00 00 00 " + Name(std::string(128, 'n')),
+         CardText(2, 0, std::string(128, 'n'))},
+        {Card(2, {}, std::string(300, 'n')),
+         "4B 0B 00 80 12 00 85 00 0C 00 02 00 00 00 00 " + Name(std::string(128, 'n')),
+         CardText(2, 0, std::string(300, 'n'))},
+        {Call(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {0, 0x0102}), "4B 0B 00 80 15 00 04 00 0D 00 00 02 01",
+         "TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(iOperationType = 0, iDataAddress = 258)", 1},
+        {Call(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {255, 65535}), "4B 0B 00 80 15 00 04 00 0D 00 FF FF FF",
+         "TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(iOperationType = 255, iDataAddress = 65535)", 1},
+        {writeFactoryByte, "4B 0B 00 80 15 00 04 00 0D 00 01 02 01 A7",
+         "TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(iOperationType = 1, iDataAddress = 258)", 0},
+        {Call(TANDEKOR_FTM_LOAD_RF_NV), "4B 0B 00 80 23 00 00 00 0C 00", "TANDEKOR_FTM_LOAD_RF_NV() ", 0, 3000,
+         "TANDEKOR_FTM_LOAD_RF_NV()"},
+        {writeLinearizer, LinearizerBytes(),
+         "TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(iGSM_Band = 2, iGSM_DACvsPower[0] = 32768, iDelay_ms = 60000)", 0,
+         60000},
+    };
+}
+
+using PhoneDataTest = FtmTest;
+
+TEST_F(PhoneDataTest, ImsiAndModeOfTheSim)
+{
+    const std::string text = "\tTANDEKOR_FTM_SIM_READ_IMSI()";
+    const Numbers number{8, 41, 38, 16, 0, 0, 0, 0, 255}, untouched{0, 1, 2, 3, 4, 5, 6, 7, 255};
+    ExpectAnswers({
+        {imsi,
+         {"00 00 08 29 26 10 00 00 00 00 FF"},
+         1,
+         number,
+         {"\tTANDEKOR_FTM_SIM_READ_IMSI(iIMSI_number[9] = {8, 41, 38, 16, 0, 0, 0, 0, 255 })" + std::string(done)}},
+        {imsi, {"07 81 08 29 26 10 00 00 00 00 FF"}, 0, number, {text + " - SendSync() fail (error code = 33031)"}},
+        {imsi, {silence}, 0, untouched, {text + noReply}},
+        {simMode, {"00 00 02 81"}, 1, {2}, {"\tTANDEKOR_FTM_SIM_GET_MODE(SIM_MODE = 2 "}},
+        {simMode, {nothing}, 1, {0}, {"\tTANDEKOR_FTM_SIM_GET_MODE(SIM_MODE = 0 "}},
+        {simMode, {silence}, 0, {0x55}, {"\tTANDEKOR_FTM_SIM_GET_MODE()" + std::string(noReply)}},
+    });
+}
+
+TEST_F(PhoneDataTest, KcFileOfTheReplyReplacesTheCallersWhateverItsStatusIs)
+{
+    for (const auto& [call, name] :
+         {std::pair(readKc, "\tTANDEKOR_FTM_SIM_READ_KC_FILE"), std::pair(writeKc, "\tTANDEKOR_FTM_SIM_WRITE_KC_FILE")})
+    {
+        const std::string text = name;
+        ExpectAnswers({
+            {call, {"00 EE FF 01 02 03 04 05 06 07 08 09"}, 1, {1, 2, 3, 4, 5, 6, 7, 8, 9, 0}, {text + "(Status = 0)"}},
+            {call,
+             {"07 00 00 01 02 03 04 05 06 07 08 09"},
+             0,
+             {1, 2, 3, 4, 5, 6, 7, 8, 9, 7},
+             {text + "() - (Status = 7)"}},
+            {call, {nothing}, 0, {'K', 'c', ' ', 'f', 'i', 'l', 'e', ' ', '9', 3}, {text + "() - (Status = 3)"}},
+            {call, {silence}, 0, {'K', 'c', ' ', 'f', 'i', 'l', 'e', ' ', '9', 3}, {text + "()" + noReply}},
+        });
+    }
+}
+
+TEST_F(PhoneDataTest, CardReadTakesDataAndStatusAndOtherAccessLooksAtTheExchangeAlone)
+{
+    const GuardedCall read = Card(0, Bytes(4)), readMore = Card(0, Bytes(20));
+    const std::string text = "\tTANDEKOR_FTM_MMC_FILE_ACCESS()", refused = text + " - SendSync() fail (error code = ";
+    ExpectAnswers({
+        {read, {"00 00 A1 A2 A3 A4"}, 1, {0xA1, 0xA2, 0xA3, 0xA4}, {text + done}},
+        {read, {"07 81 A1 A2 A3 A4"}, 0, {0xA1, 0xA2, 0xA3, 0xA4}, {refused + "33031)"}},
+        {read, {nothing}, 1, Numbers(4), {text + done}},
+        {read, {silence}, 0, Numbers(4), {text + noReply}},
+        {readMore, {"00 00 A1 A2 A3 A4 00 00"}, 1, Numbers(20), {text + done}},
+        {readMore, {"00 00 A1 A2 A3 A4 07 00"}, 0, Numbers(20), {refused + "7)"}},
+        {Card(0, {}), {"05 00"}, 0, {}, {refused + "5)"}},
+        {Card(1, {0xA1}), {"05 00"}, 1, {0xA1}, {text + done}},
+        {Card(1, {0xA1}), {silence}, 0, {0xA1}, {text + noReply}},
+        {Card(2, {0xA1}), {"05 00"}, 1, {0xA1}, {text + done}},
+    });
+}
+
+TEST_F(PhoneDataTest, CardDataAreHeldToTheRequestAndReplyAreas)
+{
+    RepliesWith("00 00");
+    EXPECT_EQ(Card(1, Bytes(3953, 0xD5))(handle).result, 1);
+    const Bytes request = simulator::Exchanges().back().request;
+    EXPECT_EQ(request.size(), 4096U);
+    EXPECT_EQ(ToHex({request.begin() + 4, request.begin() + 15}), "12 00 F6 0F 0C 00 01 71 0F 00 00");
+    EXPECT_EQ(ToHex({request.end() - 3954, request.end() - 3952}), "00 D5");
+
+    simulator::ForgetCalls();
+    EXPECT_EQ(Card(1, Bytes(3954))(handle).result, 0);
+    EXPECT_EQ(Card(1, Bytes(65535))(handle).result, 0);
+    EXPECT_EQ(CountExchanges(), 0U) << "nothing is cut and sent";
+    EXPECT_EQ(Log().back(), "\tTANDEKOR_FTM_MMC_FILE_ACCESS()" + std::string(noReply));
+
+    const Bytes fullReply(4096, 0x01);
+    Replies(fullReply);
+    CallResult call = Card(0, Bytes(4094))(handle);
+    EXPECT_EQ(call.outs, Numbers(4094, 0x01));
+    EXPECT_TRUE(call.guardsIntact);
+    Replies(fullReply);
+    call = Card(0, Bytes(65535))(handle);
+    EXPECT_TRUE(call.outsUntouched);
+    EXPECT_EQ(Log().back(), "\tTANDEKOR_FTM_MMC_FILE_ACCESS() - SendSync() fail (error code = 257)");
+    EXPECT_TRUE(LastRequest().starts_with("4B 0B 00 80 12 00 85 00 0B 00 00 FF FF 00 00 ")) << "65547 as 16 bits";
+}
+
+TEST_F(PhoneDataTest, StatusOfTheRfItemsIsHandedOutAndTheCalibrationIsNeverSent)
+{
+    RepliesWith("07 81");
+    EXPECT_EQ(Call(TANDEKOR_FTM_LOAD_RF_NV)(handle).outs, Numbers{0x8107});
+    ExpectAnswers({{Call(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<int64_t>(15, 1)), {}, 0, {}, {}}});
+    EXPECT_EQ(Log(), Texts{"TANDEKOR_FTM_WRITE_WCDMA_RF_CAL()"});
+}
+
+}  // namespace tandekor::test
