@@ -81,7 +81,7 @@ uint8_t ObexChannel::SendFile(const char* psLocalFolder, const char* psFileName,
 bool ObexChannel::EndOfBodyFollows() const
 {
     ReplyReader reply(packetBuffer, 3);
-    return reply.Complete() && reply.PassConnectionId(connectionId) && reply.NextIs(endOfBodyHeader);
+    return reply.PassConnectionId(connectionId) && reply.NextIs(endOfBodyHeader);
 }
 
 // From the first data on that cannot be written to the host file all are dropped, and the transfer goes on.
@@ -104,7 +104,7 @@ bool ObexChannel::GetFileToHost(const char* psFileName, const char* psLocalFolde
         if (*responseCode == notFoundCode)
             *responseCode = missingFileCode;
         ReplyReader reply(packetBuffer, 3);
-        if (*responseCode != continueCode || !reply.Complete() || !reply.PassConnectionId(connectionId))
+        if (*responseCode != continueCode || !reply.PassConnectionId(connectionId))
             return false;
         if (reply.NextIs(lengthHeader))
             reply.Skip(5);

@@ -59,7 +59,7 @@ bool ObexChannel::GetFolderListing(uint8_t* pListing, uint32_t* piListingSize, u
             }
             reply.Skip(5);
         }
-        // The data go to the end of the packet, whatever the length of the Body header is.
+        // The data go to the end of the packet, which has to be there, whatever the length of the Body header is.
         uint16_t unused = 0;
         if (!reply.NextIs(bodyHeader) || !reply.WordFollows(&unused))
             return false;

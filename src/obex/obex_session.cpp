@@ -36,9 +36,10 @@ bool ObexChannel::ObexConnect(uint16_t* responseCode)
     if (!SendPacket(responseCode) || *responseCode != successCode)
         return false;
 
-    ReplyReader reply(packetBuffer, 7);  // behind version, flags and packet length of the phone
-    if (!reply.Complete())
+    constexpr int fixedFields = 7;  // code, length, version, flags and packet length of the phone
+    if (packetBuffer.ResponseLength() < fixedFields)
         return false;
+    ReplyReader reply(packetBuffer, fixedFields);
     for (; reply.Left() > 0; reply.Skip(1))
     {
         if (reply.NextIs(whoHeader))
@@ -68,9 +69,10 @@ bool ObexChannel::ObexDisconnect(uint16_t* responseCode)
     if (!SendPacket(responseCode) || *responseCode != successCode)
         return false;
 
-    ReplyReader reply(packetBuffer, 3);
-    if (!reply.Complete())
+    constexpr int fixedFields = 3;  // code and length
+    if (packetBuffer.ResponseLength() < fixedFields)
         return false;
+    ReplyReader reply(packetBuffer, fixedFields);
     for (; reply.Left() > 0; reply.Skip(1))
     {
         if (reply.NextIs(connectionIdHeader))

@@ -1,6 +1,7 @@
 // Reads an OBEX reply front to back, inside the bytes that were delivered, whatever its length fields say.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "frame/packet_buffer.h"
@@ -23,14 +24,18 @@ constexpr uint8_t connectionIdHeader = 0xCB;
 class ReplyReader
 {
 public:
-    // Starts at a position of the reply. The end is the packet length of the reply's bytes 1 and 2.
+    // Starts at a position of the reply. The end is the packet length of the reply's bytes 1 and 2, or the last byte
+    // delivered if that comes first.
     ReplyReader(const PacketBuffer& replyBuffer, int start)
-        : reply(replyBuffer), position(start), end(replyBuffer.ResponseAt(1) << 8 | replyBuffer.ResponseAt(2))
+        : reply(replyBuffer),
+          position(start),
+          packetLength(replyBuffer.ResponseAt(1) << 8 | replyBuffer.ResponseAt(2)),
+          end(std::min<int>(packetLength, replyBuffer.ResponseLength()))
     {
     }
 
-    // Whether the reply holds its packet length, and as many bytes as it says.
-    bool Complete() const { return reply.ResponseLength() >= 3 && end <= reply.ResponseLength(); }
+    // Whether as many bytes were delivered as the packet length says.
+    bool Complete() const { return packetLength <= reply.ResponseLength(); }
 
     int Left() const { return end > position ? end - position : 0; }
     int Position() const { return position; }
@@ -71,6 +76,7 @@ public:
 private:
     const PacketBuffer& reply;
     int position;
+    int packetLength;
     int end;
 };
 

@@ -279,12 +279,13 @@ TEST_F(IdentityTest, MemoryCardKeepsSixteenRandomBytes)
 
 TEST_F(IdentityTest, MemoryCardThatChangesAByteIsToldByItsPlace)
 {
-    for (const size_t place : {0, 15})
+    const std::pair<size_t, const char*> cases[]
+        = {{0, "\t\tcOutData[0] != cInData[0]"}, {15, "\t\tcOutData[15] != cInData[15]"}};
+    for (const auto& [place, text] : cases)
     {
-        simulator::BeforeCall("QLIB_SendSync", 2, [place] { Phone().factory.card["\\Test.bin"][place] ^= 1; });
+        simulator::BeforeCall("QLIB_SendSync", 2, [at = place] { Phone().factory.card["\\Test.bin"][at] ^= 1; });
         EXPECT_EQ(TANDEKOR_SpecialMmcTest(handle), 0);
-        const std::string at = "[" + std::to_string(place) + "]";
-        EXPECT_EQ(LastLogText(), "\t\tcOutData" + at + " != cInData" + at);
+        EXPECT_EQ(LastLogText(), text);
     }
     simulator::ForgetLog();
     Phone().on = false;
