@@ -65,7 +65,7 @@ protected:
     CallResult Ask(const GuardedCall& call, const Bytes& reply)
     {
         Replies(reply);
-        const CallResult answered = call(handle);
+        CallResult answered = call(handle);
         EXPECT_TRUE(answered.guardsIntact);
         return answered;
     }

@@ -17,6 +17,7 @@ GuardedCall CallOn(const std::vector<Bytes>& contents,
             std::copy(content.begin(), content.end(), buffers.back().Data());
         }
         std::vector<uint8_t*> areas;
+        areas.reserve(buffers.size());
         for (GuardedBuffer& buffer : buffers)
             areas.push_back(buffer.Data());
         CallResult call;

@@ -89,13 +89,13 @@ TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
         if (request.valueBytes == ownProcedure)
             continue;
         const std::string values = std::string(" 77 77 77 77").substr(0, 3 * static_cast<size_t>(request.valueBytes));
-        const std::string& closing = request.closing.empty() ? request.entry : request.closing;
+        const std::string closing = "\t" + (request.closing.empty() ? request.entry : request.closing);
         const auto expect = [&](uint8_t result, bool outsWritten, const std::string& ending)
         {
             const CallResult call = request.call(handle);
             EXPECT_EQ(call.result, result) << request.entry;
             EXPECT_EQ(call.outsUntouched, !outsWritten || call.outs.empty()) << request.entry;
-            EXPECT_EQ(Log().back(), "\t" + closing + ending);
+            EXPECT_EQ(Log().back(), closing + ending);
         };
         RepliesWith("00 00" + values);
         expect(1, true, done);

@@ -58,6 +58,14 @@ Lines PinLines(const std::string& oe, const std::string& out, const std::string&
            + Lines{"\tTK_SetBitState_32_Reg start for OUT REG"} + RegisterLines(out) + result(out, on);
 }
 
+// What a reading of the flip's bit logs.
+Lines FlipLines(const std::string& address, bool bit)
+{
+    const char* value = bit ? "512, bOnOff = 1)" : "4294966783, bOnOff = 0)";
+    return Step("QLIB_DIAG_MEMORY_PEEK_DWORD_F(iAddress = " + address + ", iNumItems = 1, pItemArray = @)")
+           + Lines{"\tTK_GetBitState_32_Reg(Address = " + address + ", bitNum = 9, reg = " + value + good};
+}
+
 class PinsTest : public ProcedureTest
 {
 protected:
@@ -224,14 +232,8 @@ TEST_F(PinsTest, FlipIsReadWhereTheDirectionOfItsPinSays)
             const auto peek = [](const std::string& address)
             { return check + Lines{"QLIB_DIAG_MEMORY_PEEK_DWORD_F(" + address + ", 1)"}; };
             EXPECT_EQ(Calls(), check + modelCalls + peek(register1) + peek(register2));
-            const auto lines = [](const std::string& address, bool bit)
-            {
-                const char* value = bit ? "512, bOnOff = 1)" : "4294966783, bOnOff = 0)";
-                return Step("QLIB_DIAG_MEMORY_PEEK_DWORD_F(iAddress = " + address + ", iNumItems = 1, pItemArray = @)")
-                       + Lines{"\tTK_GetBitState_32_Reg(Address = " + address + ", bitNum = 9, reg = " + value + good};
-            };
-            EXPECT_EQ(Log(), ModelStep("3", "3") + lines(register1, output) + Lines{"\tTK_GetBitState_32_Reg start"}
-                                 + lines(register2, level));
+            EXPECT_EQ(Log(), ModelStep("3", "3") + FlipLines(register1, output) + Lines{"\tTK_GetBitState_32_Reg start"}
+                                 + FlipLines(register2, level));
         }
     }
 }
