@@ -70,7 +70,7 @@ std::string ReadMessage(const AtCommand& command)
     SimulatedMessage* message = FindMessage(command.value);
     if (!command.Sets() || message == nullptr)
         return NoMessage();
-    const std::string answer = Answer(command.name + ": " + HeadOf(*message) + "\r\n" + message->pdu);
+    std::string answer = Answer(command.name + ": " + HeadOf(*message) + "\r\n" + message->pdu);
     MarkAsRead(command, *message);
     return answer;
 }

@@ -172,7 +172,7 @@ Bytes SetPath(const Packet& packet)
 }
 
 // The next part of the object: a Body, also for an empty object, and behind the last one an empty End of Body.
-Bytes NextPart(ObexSession::Get& get)
+Bytes NextPart(ObexGet& get)
 {
     Bytes content = Header(ConnectionId, Dword(Session().connectionId));
     if (get.begun && get.sent == get.object.size())
@@ -246,7 +246,7 @@ Bytes BeginPut(const Packet& packet, const std::string& path, bool last)
         return Answer(BadRequest);
     if (const uint8_t code = PlaceFor(path, size); code != Success)
         return Answer(code);
-    Session().put.emplace(ObexSession::Put{path, {.time = time}, size});
+    Session().put.emplace(ObexPut{path, {.time = time}, size});
     return PutData(packet[last ? EndOfBody : Body], last);
 }
 

@@ -17,27 +17,28 @@
 namespace simulator
 {
 
-// The session of the file server, and the transfers that run in it.
+// Transfers that run in a session of the file server.
+struct ObexGet
+{
+    Bytes object;
+    size_t sent = 0;
+    bool begun = false;
+};
+struct ObexPut
+{
+    std::string path;
+    SimulatedFile file;
+    size_t announced = 0;
+};
+
 struct ObexSession
 {
     bool open = false;
     uint32_t connectionId = 0;  // of this session, or of the last one
     size_t mostReplyBytes = 0;  // as the connect announced it
     std::string folder = {};    // path of the current folder with a slash behind it; empty for the root
-    struct Get
-    {
-        Bytes object;
-        size_t sent = 0;
-        bool begun = false;
-    };
-    std::optional<Get> get = {};
-    struct Put
-    {
-        std::string path;
-        SimulatedFile file;
-        size_t announced = 0;
-    };
-    std::optional<Put> put = {};
+    std::optional<ObexGet> get = {};
+    std::optional<ObexPut> put = {};
 };
 
 struct PhoneState

@@ -45,7 +45,7 @@ bool ObexChannel::GetFolderListing(uint8_t* pListing, uint32_t* piListingSize, u
             return true;
         }
         ReplyReader reply(packetBuffer, 3);
-        if (*responseCode != continueCode || !reply.Complete() || !reply.PassConnectionId(connectionId))
+        if (*responseCode != continueCode || !reply.PassConnectionId(connectionId))
             return false;
         if (reply.NextIs(lengthHeader))
         {
@@ -64,6 +64,9 @@ bool ObexChannel::GetFolderListing(uint8_t* pListing, uint32_t* piListingSize, u
         if (!reply.NextIs(bodyHeader) || !reply.WordFollows(&unused))
             return false;
         reply.Skip(3);
+        if (reply.PacketLength() > packetBuffer.ResponseLength())
+            return false;
+        reply.EndWithPacket();
         const auto count = static_cast<uint32_t>(reply.Left());
         const uint32_t taken = std::min(count, capacity - received);
         std::copy_n(packetBuffer.ResponseFrom(reply.Position()), taken, pListing + received);

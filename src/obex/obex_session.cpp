@@ -40,6 +40,7 @@ bool ObexChannel::ObexConnect(uint16_t* responseCode)
     if (packetBuffer.ResponseLength() < fixedFields)
         return false;
     ReplyReader reply(packetBuffer, fixedFields);
+    reply.EndWithPacket();
     for (; reply.Left() > 0; reply.Skip(1))
     {
         if (reply.NextIs(whoHeader))
@@ -73,6 +74,7 @@ bool ObexChannel::ObexDisconnect(uint16_t* responseCode)
     if (packetBuffer.ResponseLength() < fixedFields)
         return false;
     ReplyReader reply(packetBuffer, fixedFields);
+    reply.EndWithPacket();
     for (; reply.Left() > 0; reply.Skip(1))
     {
         if (reply.NextIs(connectionIdHeader))

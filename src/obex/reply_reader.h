@@ -24,18 +24,16 @@ constexpr uint8_t connectionIdHeader = 0xCB;
 class ReplyReader
 {
 public:
-    // Starts at a position of the reply. The end is the packet length of the reply's bytes 1 and 2, or the last byte
-    // delivered if that comes first.
+    // Starts at a position of the reply and ends with what was delivered.
     ReplyReader(const PacketBuffer& replyBuffer, int start)
-        : reply(replyBuffer),
-          position(start),
-          packetLength(replyBuffer.ResponseAt(1) << 8 | replyBuffer.ResponseAt(2)),
-          end(std::min<int>(packetLength, replyBuffer.ResponseLength()))
+        : reply(replyBuffer), position(start), end(replyBuffer.ResponseLength())
     {
     }
 
-    // Whether as many bytes were delivered as the packet length says.
-    bool Complete() const { return packetLength <= reply.ResponseLength(); }
+    // The packet length of the reply's bytes 1 and 2, which may be more or less than what was delivered.
+    int PacketLength() const { return reply.ResponseAt(1) << 8 | reply.ResponseAt(2); }
+    // Makes the packet length the end, where it comes first.
+    void EndWithPacket() { end = std::min(end, PacketLength()); }
 
     int Left() const { return end > position ? end - position : 0; }
     int Position() const { return position; }
@@ -76,7 +74,6 @@ public:
 private:
     const PacketBuffer& reply;
     int position;
-    int packetLength;
     int end;
 };
 

@@ -102,7 +102,7 @@ void BufferedAtTest::ExpectGuardsHold(const std::vector<SentCommand>& commands, 
     }
     std::vector<std::string> texts = dense;
     for (const char fill : {'\0', '\xFF', '7', 'A', ',', ':', '"', '\r'})
-        texts.push_back(std::string(4096, fill));
+        texts.emplace_back(4096, fill);
     for (const std::string& text : texts)
     {
         for (const uint16_t claimed : std::initializer_list<uint16_t>{0, 1, 2, 8, 4096, 4097, 65535})

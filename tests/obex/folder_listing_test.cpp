@@ -21,6 +21,7 @@ protected:
     {
         SCOPED_TRACE(::testing::PrintToString(replies));
         std::vector<Turn> turns;
+        turns.reserve(replies.size());
         for (const std::string& reply : replies)
             turns.push_back({turns.empty() ? first : next, reply, 5000});
         GuardedBuffer listing(capacity);

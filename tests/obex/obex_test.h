@@ -30,8 +30,6 @@ protected:
 
     ObexTest();
     ~ObexTest() override;
-    ObexTest(const ObexTest&) = delete;
-    ObexTest& operator=(const ObexTest&) = delete;
 
     // Gives the canned replies, makes the call, and compares its outcome and all that it sent, with the time-outs.
     void ExpectTurns(const std::vector<Turn>& turns, uint8_t result, uint16_t bits,

@@ -16,6 +16,14 @@ using simulator::Bytes;
 namespace
 {
 
+// The header's macros mix enumerations, which C++20 deprecates.
+constexpr uint8_t nameHeader = 0x01;
+constexpr uint8_t targetHeader = 0x46;
+constexpr uint8_t bodyHeader = 0x48;
+constexpr uint8_t whoHeader = 0x4A;
+constexpr uint8_t lengthHeader = 0xC3;
+constexpr uint8_t connectionHeader = 0xCB;
+
 constexpr uint32_t connectionId = 0xCB4A0102;  // of bytes that are headers' identifiers as well
 
 int Good(obex_t*, void*) { return 1; }
@@ -77,24 +85,23 @@ void OpenObexServer::OnRequest(obex_object_t* object, int command)
     uint32_t size = 0;
     while (OBEX_ObjectGetNextHeader(obex, object, &header, &value, &size) > 0)
     {
-        if (header == OBEX_HDR_NAME)
+        if (header == nameHeader)
         {
             for (uint32_t i = 1; i + 2 < size; i += 2)
                 name += static_cast<char>(value.bs[i]);
         }
-        else if (header == OBEX_HDR_BODY || header == OBEX_HDR_BODY_END)
+        else if (header == bodyHeader)
             body.emplace(value.bs, value.bs + size);
-        else if (header == OBEX_HDR_TARGET)
+        else if (header == targetHeader)
             target.assign(value.bs, value.bs + size);
-        else if (header == OBEX_HDR_CONNECTION)
+        else if (header == connectionHeader)
             connection = value.bq4;
     }
     if (command == OBEX_CMD_CONNECT)
     {
         folder.clear();
-        AddNumber(object, OBEX_HDR_CONNECTION, connectionId);
-        OBEX_ObjectAddHeader(obex, object, OBEX_HDR_WHO, {.bs = target.data()}, static_cast<uint32_t>(target.size()),
-                             0);
+        AddNumber(object, connectionHeader, connectionId);
+        OBEX_ObjectAddHeader(obex, object, whoHeader, {.bs = target.data()}, static_cast<uint32_t>(target.size()), 0);
     }
     else if (connection != connectionId)
         Refuse(object, OBEX_RSP_SERVICE_UNAVAILABLE);
@@ -128,16 +135,16 @@ void OpenObexServer::Get(obex_object_t* object, const std::string& path)
     const auto file = files.find(path);
     if (file == files.end())
         return Refuse(object, OBEX_RSP_NOT_FOUND);
-    AddNumber(object, OBEX_HDR_LENGTH, static_cast<uint32_t>(file->second.size()));
+    AddNumber(object, lengthHeader, static_cast<uint32_t>(file->second.size()));
     outgoing = &file->second;
-    OBEX_ObjectAddHeader(obex, object, OBEX_HDR_BODY, {.bs = nullptr}, 0, OBEX_FL_STREAM_START);
+    OBEX_ObjectAddHeader(obex, object, bodyHeader, {.bs = nullptr}, 0, OBEX_FL_STREAM_START);
 }
 
 void OpenObexServer::FeedBody(obex_object_t* object)
 {
     const Bytes nothing;
     const Bytes& data = outgoing == nullptr ? nothing : *outgoing;
-    OBEX_ObjectAddHeader(obex, object, OBEX_HDR_BODY, {.bs = data.data()}, static_cast<uint32_t>(data.size()),
+    OBEX_ObjectAddHeader(obex, object, bodyHeader, {.bs = data.data()}, static_cast<uint32_t>(data.size()),
                          outgoing == nullptr ? OBEX_FL_STREAM_DATAEND : OBEX_FL_STREAM_DATA);
     outgoing = nullptr;
 }

@@ -18,7 +18,7 @@ protected:
         simulator::ThePhone().obexMode = true;
         simulator::ThePhone().obexPeer = [this](const Bytes& packet)
         {
-            const Bytes answer = server.Answer(packet);
+            Bytes answer = server.Answer(packet);
             codes.insert(answer.empty() ? 0 : answer[0]);
             return answer;
         };

@@ -3,6 +3,7 @@
 #include <functional>
 #include <iterator>
 #include <map>
+#include <ostream>
 #include <set>
 
 #include "frame/internal_functions.h"
@@ -23,6 +24,9 @@ struct Procedure
     std::function<uint8_t(ResourceContext)> call;
     std::function<void(ResourceContext)> prepare = nullptr;  // where it does not succeed on any fresh bench
 };
+
+// How a test is called in a report.
+void PrintTo(const Procedure& procedure, std::ostream* out) { *out << procedure.name; }
 
 // Out-arguments of all procedures.
 struct Outs
