@@ -49,7 +49,7 @@ void AtChannel::AddCharacter(char character) { packetBuffer.AddByte(static_cast<
 void AtChannel::AddDecimal(uint32_t value, int mostCharacters)
 {
     char digits[10];
-    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    const char* const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
     packetBuffer.AddBytes(digits, static_cast<size_t>(std::min<ptrdiff_t>(end - digits, mostCharacters)));
 }
 
