@@ -56,7 +56,7 @@ constexpr Test tests[] = {
     {"hardware-id", "identifier of the hardware variant", HardwareId},
     {"nand-flash", "identifier of the NAND flash", NandFlash},
     {"fuel-gauge", "version of the fuel gauge", FuelGauge},
-    {"bluetooth", "parameters of the Bluetooth module", Bluetooth},
+    {"bt-parameters", "parameters of the Bluetooth module", Bluetooth},
 };
 
 }  // namespace
