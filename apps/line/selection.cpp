@@ -93,7 +93,7 @@ std::string Select(const std::vector<std::string>& names, const Options& options
     }
     for (const Test* test : selection)
     {
-        if (const std::string problem = test->lacks == nullptr ? "" : test->lacks(options); !problem.empty())
+        if (std::string problem = test->lacks == nullptr ? "" : test->lacks(options); !problem.empty())
             return problem;
     }
     AddFrame(selection);
