@@ -181,7 +181,7 @@ TEST_F(FileOperationsTest, SourceThatIsNoFileSendsNothing)
     ExpectSession({}, 0, 64, [&] { return SendFrom(HostPath("no such folder/"), "f"); });
 }
 
-// What is missing is filled up, so that every packet is as long as it says and the object as long as announced.
+// A packet is as long as it says, also where the file has less for it than was announced.
 TEST_F(FileOperationsTest, SourceThatGetsShorterArrivesShortWithNothingInItsPlace)
 {
     const Bytes content = Noise(10'000);
