@@ -228,6 +228,7 @@ private:
     // NV items, shown as text. iLength is in bytes.
     bool WriteItem(uint16_t iItemID, const uint8_t* pItemData, int32_t iLength);
     bool ReadItem(uint16_t iItemID, uint8_t* cBin3, int32_t iLength);
+    bool ReadThresholds(const uint16_t (&items)[3], uint8_t* first, uint8_t* second, uint8_t* third);
     bool SetMode(uint16_t eNewMode);
     bool SetChannel(uint16_t iChannel);
     bool SetLnaRange(uint8_t iLNArange);

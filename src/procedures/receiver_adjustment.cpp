@@ -28,9 +28,11 @@ constexpr WcdmaBand wcdmaBands[] = {
     {6, 1814, 1815, {1835, 1819, 1820}, {1834, 1817, 1818}},
 };
 
-// Null for a band that is not known.
-const WcdmaBand* FindBand(uint16_t eNvBand)
+// Null without a phone, or for a band that is not known.
+const WcdmaBand* ConnectedBand(ResourceContext hResourceContext, uint16_t eNvBand)
 {
+    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+        return nullptr;
     for (const WcdmaBand& band : wcdmaBands)
     {
         if (band.eNvBand == eNvBand)
@@ -107,9 +109,7 @@ uint8_t PhoneProcedures::RX_WCDMA_Adjust(uint8_t iLNArange, int16_t iDvgaExpecte
 
 bool PhoneProcedures::NV_WRITE_WCDMA_VGA_GAIN(uint16_t eNvBand, uint16_t iOffset, const uint8_t* piVsFreq)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
-        return false;
-    const WcdmaBand* band = FindBand(eNvBand);
+    const WcdmaBand* band = ConnectedBand(hResourceContext, eNvBand);
     if (band == nullptr)
         return false;
     const uint8_t offset[] = {static_cast<uint8_t>(iOffset), static_cast<uint8_t>(iOffset >> 8)};
@@ -117,24 +117,25 @@ bool PhoneProcedures::NV_WRITE_WCDMA_VGA_GAIN(uint16_t eNvBand, uint16_t iOffset
            && (piVsFreq == nullptr || WriteItem(band->vgaGainVsFreq, piVsFreq, vsFreqSize));
 }
 
+// Nothing is read behind a threshold that cannot be read.
+bool PhoneProcedures::ReadThresholds(const uint16_t (&items)[3], uint8_t* first, uint8_t* second, uint8_t* third)
+{
+    return ReadItem(items[0], first, offsetSize) && ReadItem(items[1], second, offsetSize)
+           && ReadItem(items[2], third, offsetSize);
+}
+
 bool PhoneProcedures::NV_READ_WCDMA_LNA_RANGE_FALL(uint16_t eNvBand, uint8_t* piFall1, uint8_t* piFall2,
                                                    uint8_t* piFall3)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
-        return false;
-    const WcdmaBand* band = FindBand(eNvBand);
-    return band != nullptr && ReadItem(band->fall[0], piFall1, offsetSize)
-           && ReadItem(band->fall[1], piFall2, offsetSize) && ReadItem(band->fall[2], piFall3, offsetSize);
+    const WcdmaBand* band = ConnectedBand(hResourceContext, eNvBand);
+    return band != nullptr && ReadThresholds(band->fall, piFall1, piFall2, piFall3);
 }
 
 bool PhoneProcedures::NV_READ_WCDMA_LNA_RANGE_RISE(uint16_t eNvBand, uint8_t* piRise1, uint8_t* piRise2,
                                                    uint8_t* piRise3)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
-        return false;
-    const WcdmaBand* band = FindBand(eNvBand);
-    return band != nullptr && ReadItem(band->rise[0], piRise1, offsetSize)
-           && ReadItem(band->rise[1], piRise2, offsetSize) && ReadItem(band->rise[2], piRise3, offsetSize);
+    const WcdmaBand* band = ConnectedBand(hResourceContext, eNvBand);
+    return band != nullptr && ReadThresholds(band->rise, piRise1, piRise2, piRise3);
 }
 
 }  // namespace tandekor
