@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "at/at_channel.h"
+#include "channels/at_channel.h"
 
 namespace tandekor
 {

@@ -1,6 +1,6 @@
 // Commands that set or read one small number, and the three that are sent without a value.
-#include "at/at_channel.h"
-#include "frame/text_log.h"
+#include "channels/at_channel.h"
+#include "core/text_log.h"
 
 namespace tandekor
 {

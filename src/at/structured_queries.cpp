@@ -2,8 +2,8 @@
 // indicators, bearer, interface, operator, packet contexts.
 #include <cstdlib>
 
-#include "at/at_channel.h"
-#include "frame/text_log.h"
+#include "channels/at_channel.h"
+#include "core/text_log.h"
 
 namespace tandekor
 {

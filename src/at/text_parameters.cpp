@@ -1,7 +1,7 @@
 // Commands with text, quoted fields or parameters that may be left out: keypad, locks, PIN, forwarding, waiting,
 // service centre, cell broadcast, character set, restricted SIM access.
-#include "at/at_channel.h"
-#include "frame/text_log.h"
+#include "channels/at_channel.h"
+#include "core/text_log.h"
 
 namespace tandekor
 {

@@ -1,8 +1,8 @@
 // What the phone's user sees and touches: display, backlights, slider, and the camera's flash, focus and
 // identification.
-#include "frame/operator_output.h"
-#include "frame/phone_models.h"
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
+#include "core/operator_output.h"
+#include "phone/phone_models.h"
 #include "tandekor/procedures.h"
 
 namespace tandekor

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
 
 namespace tandekor
 {

@@ -1,7 +1,7 @@
 // What the phone says about its own hardware.
 #include <cstring>
 
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
 #include "platform/qmsl.h"
 
 namespace tandekor

@@ -1,5 +1,5 @@
 // The phone's low-level peripherals: pins, I2C devices, ADC, fuel gauge, headset amplifier.
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
 
 namespace tandekor
 {

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "frame/item_text.h"
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
+#include "core/item_text.h"
 
 namespace tandekor
 {

@@ -1,5 +1,5 @@
 // The phone's supporting circuits: switches, power modes, infrared port, A-GPS measurement, clock and tracer.
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
 
 namespace tandekor
 {

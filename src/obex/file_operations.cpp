@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "obex/obex_session.h"
-#include "obex/reply_reader.h"
+#include "channels/obex_session.h"
+#include "channels/reply_reader.h"
 #include "platform/clock.h"
 #include "platform/host_file.h"
 

@@ -1,8 +1,8 @@
 // The listing of a folder: an OBEX Get whose object goes to the caller's buffer unread.
 #include <algorithm>
 
-#include "obex/obex_session.h"
-#include "obex/reply_reader.h"
+#include "channels/obex_session.h"
+#include "channels/reply_reader.h"
 
 namespace tandekor
 {

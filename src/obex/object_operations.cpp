@@ -2,8 +2,8 @@
 // The last four are the server's own, asked for by Application Parameters that only it knows.
 #include <cstring>
 
-#include "obex/obex_session.h"
-#include "obex/reply_reader.h"
+#include "channels/obex_session.h"
+#include "channels/reply_reader.h"
 
 namespace tandekor
 {

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <iterator>
 
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/procedures.h"
 

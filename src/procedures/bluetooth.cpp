@@ -2,8 +2,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 

@@ -1,7 +1,7 @@
 // The phone's whole way on and off, by its power and by its mode. These procedures write no start texts.
-#include "frame/internal_functions.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "procedures/start_mode.h"
 #include "tandekor/procedures.h"

@@ -1,8 +1,8 @@
 // The phone's charger, and its supply lines by phone model. Nothing is measured here: the caller does that from
 // outside.
-#include "frame/internal_functions.h"
-#include "frame/phone_models.h"
+#include "phone/phone_models.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"

@@ -1,8 +1,8 @@
 // The choice of a display by its number, and a test image on it.
-#include "frame/internal_functions.h"
-#include "frame/phone_models.h"
+#include "phone/phone_models.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"

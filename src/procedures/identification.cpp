@@ -2,8 +2,8 @@
 // identity of its software.
 #include <cstring>
 
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"

@@ -3,9 +3,9 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 

@@ -1,8 +1,8 @@
 // The phone's keys: which hardware code stands for which key, in eleven maps, and the reading of one key event.
 #include <span>
 
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

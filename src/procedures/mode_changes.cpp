@@ -1,7 +1,7 @@
 // The phone between online and FTM mode: by a reset, which is slow and sure, or by the direct mode command.
-#include "frame/internal_functions.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "procedures/start_mode.h"
 

@@ -1,9 +1,9 @@
 // Pins behind registers and the camera, which differ from phone model to phone model: keypad light, flip, camera
 // choice, camera identification.
-#include "frame/internal_functions.h"
-#include "frame/operator_output.h"
-#include "frame/phone_models.h"
+#include "core/operator_output.h"
+#include "phone/phone_models.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"

@@ -1,7 +1,7 @@
 // NV items and hardware registers of the phone, with the checks that a bare host call lacks.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/text_log.h"
-#include "procedures/boot_box_port.h"
+#include "channels/boot_box_port.h"
+#include "core/text_log.h"
 #include "procedures/step_values.h"
 
 namespace tandekor

@@ -1,6 +1,6 @@
 // The FM radio test, the factory tracking byte, and the uploads.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "procedures/upload_callback.h"
 #include "tandekor/ftm.h"

@@ -1,6 +1,6 @@
 // One measurement of the receiver for an application that adjusts it, and the NV functions of a WCDMA band.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

@@ -1,6 +1,6 @@
 // The storing of a whole receiver calibration, in one batch of NV writes.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

@@ -1,6 +1,6 @@
 // The stages of a GSM and of a WCDMA test call, each once, without a wait between them.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

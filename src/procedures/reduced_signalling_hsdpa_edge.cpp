@@ -1,7 +1,7 @@
 // The stages of an HSDPA and of an EDGE test call, each once, without a wait between them; and a call on the phone's
 // normal call stack, ended at once.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

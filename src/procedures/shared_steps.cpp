@@ -1,7 +1,7 @@
 // Steps that several procedures take.
-#include "frame/internal_functions.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "procedures/start_mode.h"
 #include "tandekor/procedures.h"

@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/item_text.h"
+#include "core/item_text.h"
 
 namespace tandekor
 {

@@ -1,6 +1,6 @@
 // The transmitter through its fixed sequences, and averages of ADC readings by phone model.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tandekor/ftm.h"
 

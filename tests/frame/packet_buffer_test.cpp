@@ -1,4 +1,4 @@
-#include "frame/packet_buffer.h"
+#include "core/packet_buffer.h"
 
 #include <algorithm>
 #include <functional>

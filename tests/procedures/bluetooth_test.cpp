@@ -1,5 +1,5 @@
 // The Bluetooth module: continuous wave, its address, its identification.
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 #include "tests/procedures/step_lines.h"
 
 namespace tandekor::test

@@ -1,5 +1,5 @@
 // The boot box port: what the port is told and in which order.
-#include "procedures/boot_box_port.h"
+#include "channels/boot_box_port.h"
 
 #include "tests/procedures/procedure_test.h"
 

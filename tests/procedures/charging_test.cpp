@@ -1,5 +1,5 @@
 // The charger, and the supply lines by phone model.
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 #include "tests/frame/guarded_call.h"
 #include "tests/procedures/step_lines.h"
 

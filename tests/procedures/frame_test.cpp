@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 #include "tests/procedures/procedure_test.h"
 
 namespace tandekor::test

@@ -1,7 +1,7 @@
 // The set-up of a phone: network, roaming, clock, virtual SIM.
 #include <numeric>
 
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 #include "tests/procedures/chain_lines.h"
 
 namespace tandekor::test

@@ -1,6 +1,6 @@
 // NV items and hardware registers.
-#include "frame/internal_functions.h"
 #include "platform/qmsl.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tests/procedures/procedure_test.h"
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <array>
 
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 #include "tests/procedures/chain_lines.h"
 
 namespace tandekor::test

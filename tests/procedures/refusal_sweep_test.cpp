@@ -6,7 +6,7 @@
 #include <ostream>
 #include <set>
 
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 #include "procedures/phone_procedures.h"
 #include "tests/procedures/procedure_test.h"
 

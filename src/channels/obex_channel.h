@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "frame/packet_buffer.h"
+#include "core/packet_buffer.h"
 
 namespace tandekor
 {

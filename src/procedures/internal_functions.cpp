@@ -1,6 +1,6 @@
-#include "frame/internal_functions.h"
+#include "procedures/internal_functions.h"
 
-#include "frame/forward.h"
+#include "connection/forward.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "frame/connection_registry.h"
+#include "connection/connection_registry.h"
 #include "platform/qmsl.h"
 
 namespace tandekor

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "at/reply_cursor.h"
-#include "frame/packet_buffer.h"
+#include "channels/reply_cursor.h"
+#include "core/packet_buffer.h"
 
 namespace tandekor
 {

@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <initializer_list>
 
-#include "frame/packet_buffer.h"
-#include "frame/text_log.h"
-#include "ftm/catalogue.h"
+#include "core/packet_buffer.h"
+#include "core/text_log.h"
+#include "phone/catalogue.h"
 
 namespace tandekor
 {

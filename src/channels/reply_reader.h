@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "frame/packet_buffer.h"
+#include "core/packet_buffer.h"
 
 namespace tandekor
 {

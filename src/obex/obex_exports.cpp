@@ -1,6 +1,6 @@
 // The exported OBEX functions.
-#include "frame/forward.h"
-#include "obex/obex_channel.h"
+#include "channels/obex_channel.h"
+#include "connection/forward.h"
 #include "tandekor/obex.h"
 
 using tandekor::Forward;

@@ -1,5 +1,5 @@
 // The exported procedures.
-#include "frame/forward.h"
+#include "connection/forward.h"
 #include "procedures/phone_procedures.h"
 #include "procedures/upload_callback.h"
 #include "tandekor/procedures.h"

@@ -1,9 +1,9 @@
-#include "obex/obex_channel.h"
+#include "channels/obex_channel.h"
 
 #include <cstring>
 
-#include "frame/text_log.h"
-#include "obex/reply_reader.h"
+#include "channels/reply_reader.h"
+#include "core/text_log.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
 

@@ -1,4 +1,4 @@
-#include "procedures/boot_box_port.h"
+#include "channels/boot_box_port.h"
 
 #include "platform/clock.h"
 

@@ -1,6 +1,6 @@
 // The exported AT functions.
-#include "at/at_channel.h"
-#include "frame/forward.h"
+#include "channels/at_channel.h"
+#include "connection/forward.h"
 #include "tandekor/at.h"
 
 using tandekor::At;

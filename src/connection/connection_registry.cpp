@@ -1,11 +1,11 @@
-#include "frame/connection_registry.h"
+#include "connection/connection_registry.h"
 
 #include <algorithm>
 #include <new>
 
-#include "at/at_channel.h"
-#include "ftm/ftm_channel.h"
-#include "obex/obex_channel.h"
+#include "channels/at_channel.h"
+#include "channels/ftm_channel.h"
+#include "channels/obex_channel.h"
 #include "procedures/phone_procedures.h"
 
 namespace tandekor

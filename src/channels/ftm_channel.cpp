@@ -1,4 +1,4 @@
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
 
 #include "platform/qmsl.h"
 

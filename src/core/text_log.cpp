@@ -1,4 +1,4 @@
-#include "frame/text_log.h"
+#include "core/text_log.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 // The codes of an OBEX session, and the frame in which every file operation runs.
 #pragma once
 
-#include "obex/obex_channel.h"
+#include "channels/obex_channel.h"
 #include "tandekor/obex.h"
 
 namespace tandekor

@@ -1,10 +1,10 @@
-#include "obex/obex_session.h"
+#include "channels/obex_session.h"
 
 #include <algorithm>
 #include <cstring>
 #include <iterator>
 
-#include "obex/reply_reader.h"
+#include "channels/reply_reader.h"
 
 namespace tandekor
 {

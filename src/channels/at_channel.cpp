@@ -1,10 +1,10 @@
-#include "at/at_channel.h"
+#include "channels/at_channel.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstring>
 
-#include "frame/text_log.h"
+#include "core/text_log.h"
 #include "platform/qmsl.h"
 
 namespace tandekor

@@ -1,6 +1,6 @@
 // The exported factory requests.
-#include "frame/forward.h"
-#include "ftm/ftm_channel.h"
+#include "channels/ftm_channel.h"
+#include "connection/forward.h"
 #include "tandekor/ftm.h"
 
 using tandekor::Forward;
