@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <span>
 
+#include "phone/factory_requests.h"
 #include "simulator/operation.h"
 #include "simulator/state.h"
 
@@ -11,9 +12,9 @@ namespace simulator
 namespace
 {
 
+namespace factory = tandekor::factory;
+
 constexpr size_t headerLength = 10;
-constexpr uint16_t ftm = 0x8000;
-constexpr uint16_t ltm = 0x8001;
 
 constexpr uint16_t good = 0;
 constexpr uint16_t tooShort = 1;
@@ -212,87 +213,87 @@ Bytes KeepBacklight(Data data)
 
 struct Command
 {
-    uint16_t mode;
-    uint16_t id;
+    factory::Request request;
     size_t dataLength;  // the least that the phone needs, whatever the header declares
     Bytes (*fields)(Data data);
 };
 
 constexpr Command commands[] = {
-    {ftm, 10, 0, [](Data) { return Fields(good, ThePhone().hardwareVersion); }},
-    {ftm, 11, 0, [](Data) { return Fields(good, ThePhone().nandFlashId); }},
-    {ftm, 12, 1, Accept},  // infrared on or off
-    {ftm, 13, 0, FuelGaugeVersion},
-    {ftm, 14, 3, Accept},  // switch
-    {ftm, 15, 7, AccessI2c},
-    {ftm, 16, 4, SumAdc},
-    {ftm, 17, 0, [](Data) { return Behind(Fields(good), ThePhone().factory.imsi); }},
-    {ftm, 18, 133, AccessCard},
-    {ftm, 19, 1, EnterLowPowerMode},
-    {ftm, 21, 3, AccessFactoryData},
-    {ftm, 22, 0, [](Data) { return Fields(good, ThePhone().factory.fmChip); }},
-    {ftm, 23, 128, ShowImage},
-    {ftm, 24, 1, KeepByte<&Factory::contrast>},
-    {ftm, 25, 1, Accept},  // USB or UART
-    {ftm, 26, 349, WriteLinearizer},
-    {ftm, 28, 2, TuneFm},
-    {ftm, 29, 0, [](Data) { return Fields(good, ThePhone().hardwareId); }},
-    {ftm, 30, 1, KeepBacklight},
-    {ftm, 31, 0, Accept},  // start of the carrier-to-noise measurement
-    {ftm, 32, 0, [](Data) { return Fields(good, carrierToNoise); }},
-    {ftm, 33, 2, Accept},  // infrared with high current
-    {ftm, 34, 0, Accept},  // radio data
-    {ftm, 35, 0, Accept},  // load of the RF items
+    {factory::GetHardwareVersion, 0, [](Data) { return Fields(good, ThePhone().hardwareVersion); }},
+    {factory::GetNandFlashId, 0, [](Data) { return Fields(good, ThePhone().nandFlashId); }},
+    {factory::IrdaOnOff, 1, Accept},
+    {factory::GetFuelGaugeVersion, 0, FuelGaugeVersion},
+    {factory::ConfigureSwitch, 3, Accept},
+    {factory::I2cDataAccess, 7, AccessI2c},
+    {factory::MgetAdcVal, 4, SumAdc},
+    {factory::SimReadImsi, 0, [](Data) { return Behind(Fields(good), ThePhone().factory.imsi); }},
+    {factory::MmcFileAccess, 133, AccessCard},
+    {factory::SetLowPowerMode, 1, EnterLowPowerMode},
+    {factory::ReadWriteFactoryData, 3, AccessFactoryData},
+    {factory::GetFmRadioId, 0, [](Data) { return Fields(good, ThePhone().factory.fmChip); }},
+    {factory::DisplayImage, 128, ShowImage},
+    {factory::SetLcdContrast, 1, KeepByte<&Factory::contrast>},
+    {factory::TestPmicUsb, 1, Accept},
+    {factory::WriteGsmTxLinearizer, 349, WriteLinearizer},
+    {factory::TuneFmRadio, 2, TuneFm},
+    {factory::GetHwId, 0, [](Data) { return Fields(good, ThePhone().hardwareId); }},
+    {factory::SetLcdBacklightLevel, 1, KeepBacklight},
+    {factory::StartAgpsCtonMeas, 0, Accept},
+    {factory::GetAgpsCtonMeas, 0, [](Data) { return Fields(good, carrierToNoise); }},
+    {factory::IrdaHighCurrentTest, 2, Accept},
+    {factory::RadioRdsTest, 0, Accept},
+    {factory::LoadRfNv, 0, Accept},
     // Bluetooth: three parameters.
-    {ftm, 36, 0, [](Data) { return Fields(good, uint8_t{1}, uint8_t{2}, uint8_t{3}); }},
-    {ftm, 38, 2, Accept},  // flash
-    {ftm, 150, 2,
+    {factory::GetBtParam, 0, [](Data) { return Fields(good, uint8_t{1}, uint8_t{2}, uint8_t{3}); }},
+    {factory::TestCameraFlash, 2, Accept},
+    {factory::SetFlashLightLevel, 2,
      [](Data data)
      {
          ThePhone().factory.flashLevel = WordOf(data, 0);
          return Fields(good, uint8_t{good});
      }},
-    {ftm, 151, 1,
+    {factory::SwitchLcdBacklight, 1,
      [](Data data)
      {
          ThePhone().factory.backlightOn = data[0] != 0;
          return Fields(good);
      }},
-    {ftm, 200, 1, KeepByte<&Factory::display>},
-    {ftm, 201, 128, ShowImage},
-    {ftm, 202, 101, FmBlock},
-    {ftm, 203, 0, [](Data) { return Fields(uint16_t{ThePhone().factory.simMode}); }},
-    {ftm, 204, 0, [](Data) { return Behind(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile); }},
-    {ftm, 205, 12, WriteKcFile},
-    {ftm, 206, 0, CameraIdentification},
-    {ftm, 207, 4, ReadFuelGauge},
-    {ftm, 208, 1, [](Data data) { return Fields(data[0]); }},
+    {factory::SelectDisplay, 1, KeepByte<&Factory::display>},
+    {factory::DisplayImage24Bit, 128, ShowImage},
+    {factory::FmRadioBlock, 101, FmBlock},
+    {factory::SimGetMode, 0, [](Data) { return Fields(uint16_t{ThePhone().factory.simMode}); }},
+    {factory::SimReadKcFile, 0,
+     [](Data) { return Behind(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile); }},
+    {factory::SimWriteKcFile, 12, WriteKcFile},
+    {factory::GetCameraIdString, 0, CameraIdentification},
+    {factory::GgReadReg, 4, ReadFuelGauge},
+    {factory::GgMode, 1, [](Data data) { return Fields(data[0]); }},
     // Clock and oscillator, with a status of one byte: what was set comes back.
-    {ftm, 213, 3, [](Data data) { return Fields(uint8_t{good}, data[1], data[2], uint16_t{0}); }},
-    {ftm, 214, 2, [](Data data) { return Fields(uint8_t{good}, data[1]); }},
-    {ftm, 215, 4, [](Data) { return Fields(ThePhone().factory.headsetRegister); }},
-    {ftm, 216, 4,
+    {factory::RtcStart, 3, [](Data data) { return Fields(uint8_t{good}, data[1], data[2], uint16_t{0}); }},
+    {factory::RtcOscCtrl, 2, [](Data data) { return Fields(uint8_t{good}, data[1]); }},
+    {factory::HeadsetAmpRead, 4, [](Data) { return Fields(ThePhone().factory.headsetRegister); }},
+    {factory::HeadsetAmpWrite, 4,
      [](Data data)
      {
          ThePhone().factory.headsetRegister = DwordOf(data, 0);
          return Fields(ThePhone().factory.headsetRegister);
      }},
-    {ftm, 217, 2, Accept},  // tracer
-    {ftm, 245, 4,
+    {factory::TracerControl, 2, Accept},
+    {factory::SetKeyPadBackLight, 4,
      [](Data data)
      {
          ThePhone().factory.keypadLight = DwordOf(data, 0);
          return Fields(good);
      }},
-    {ftm, 246, 0, [](Data) { return Fields(ThePhone().factory.slider); }},
-    {ftm, 247, 1, KeepByte<&Factory::focus>},
+    {factory::GetSliderState, 0, [](Data) { return Fields(ThePhone().factory.slider); }},
+    {factory::SetCameraFocus, 1, KeepByte<&Factory::focus>},
     // Audio device 15: a status of one byte.
-    {ltm, 1136, 4, [](Data) { return Fields(ThePhone().audio.biasStatus, uint8_t{0}, uint16_t{0}); }},
-    {ltm, 1338, 0, CameraIdentification},
-    {ltm, 1340, 3, SendInfrared},
-    {ltm, 1342, 0, FuelGaugeVersion},
+    {factory::MicrophoneBias, 4, [](Data) { return Fields(ThePhone().audio.biasStatus, uint8_t{0}, uint16_t{0}); }},
+    {factory::LtmGetCameraIdString, 0, CameraIdentification},
+    {factory::IrdaTransmit, 3, SendInfrared},
+    {factory::LtmGetFuelGaugeVersion, 0, FuelGaugeVersion},
     // Infrared: the byte as it came back, and how many were lost.
-    {ltm, 1354, 3, [](Data) { return Fields(good, uint32_t{TheState().phone.irdaByte}, uint32_t{0}); }},
+    {factory::IrdaReceive, 3, [](Data) { return Fields(good, uint32_t{TheState().phone.irdaByte}, uint32_t{0}); }},
 };
 
 Bytes FieldsOf(const Bytes& request)
@@ -301,7 +302,8 @@ Bytes FieldsOf(const Bytes& request)
         return Fields(tooShort);
     const auto word = [&](size_t at) { return static_cast<uint16_t>(request[at] | (request[at + 1] << 8)); };
     const auto* command
-        = std::ranges::find_if(commands, [&](const Command& one) { return one.mode == word(2) && one.id == word(4); });
+        = std::ranges::find_if(commands, [&](const Command& one)
+                               { return one.request.modeId == word(2) && one.request.requestId == word(4); });
     if (command == std::end(commands))
     {
         ReportNotSimulated("factory request " + Shown(word(4)) + " of mode " + Shown(word(2)));

@@ -1,11 +1,11 @@
 // The FM radio: chip, tuning, and three requests whose reply is one block of fields.
 #include <algorithm>
-#include <cstring>
 
 #include "channels/ftm_channel.h"
+#include "connection/forward.h"
+#include "tandekor/ftm.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -19,7 +19,7 @@ constexpr uint32_t blockTimeMs = 20000;
 
 constexpr size_t mostScanEntries = 48;
 
-// A reply block, which is zero where a short reply did not reach.
+// A reply block, zero past the end of a short reply.
 struct FmReply
 {
     static constexpr size_t size = 111;
@@ -30,70 +30,75 @@ struct FmReply
     uint16_t Word(size_t position) const { return static_cast<uint16_t>(bytes[position] | bytes[position + 1] << 8); }
 };
 
+// The result lines begin with a line end. The fields are taken whatever the status is.
+template <typename Take>
+uint8_t FmBlock(ResourceContext hResourceContext, const char* startName, const char* name, uint8_t subCommand,
+                Take take)
+{
+    return With(Ftm(hResourceContext),
+                [&](FtmChannel& ftm)
+                {
+                    constexpr size_t dataLength = 101;
+                    Trace(hResourceContext, "%s()", startName);
+                    const uint8_t data[dataLength] = {0, subCommand};
+                    if (ftm.Exchange(factory::FmRadioBlock, {SentBytes(data, dataLength)}, blockTimeMs) == 0)
+                    {
+                        Trace(hResourceContext, "\n%s() - SendSync() fail (error code = %i)", name, ftm.ErrorByte());
+                        return false;
+                    }
+                    FmReply reply;
+                    ftm.Take({ReplyBytes(reply.bytes, FmReply::size)});
+                    take(reply);
+                    const uint8_t status = reply.Byte(10);
+                    if (status != 0)
+                    {
+                        Trace(hResourceContext, "\n%s() - error code = %d", name, status);
+                        return false;
+                    }
+                    Trace(hResourceContext, "\n%s() - Completed successfully\n", name);
+                    return true;
+                });
+}
+
 }  // namespace
 
-uint8_t FtmChannel::GET_FM_RADIO_ID(uint16_t* iChip_Id)
+uint8_t TANDEKOR_FTM_GET_FM_RADIO_ID(ResourceContext hResourceContext, uint16_t* iChip_Id)
 {
-    Trace(hResourceContext, "TANDEKOR_FTM_GET_FM_RADIO_ID(iChip_Id = %d)", *iChip_Id);
-    return StandardBehindEntry(
-        FormattedText("TANDEKOR_FTM_GET_FM_RADIO_ID()"), catalogue::GetFmRadioId, [] {},
-        [&] { packetBuffer.PopWord(iChip_Id); });
+    const FormattedText text("%s()", __func__);
+    return With(Ftm(hResourceContext),
+                [&](FtmChannel& ftm)
+                {
+                    Trace(hResourceContext, "TANDEKOR_FTM_GET_FM_RADIO_ID(iChip_Id = %d)", *iChip_Id);
+                    return ftm.StandardAfterStart(text, factory::GetFmRadioId, {.reply = {iChip_Id}});
+                });
 }
 
 // The status word is taken from whatever arrived, also after a failed exchange.
-uint8_t FtmChannel::TUNE_FM_RADIO(uint16_t iChannel, uint16_t* piStatusWord)
+uint8_t TANDEKOR_FTM_TUNE_FM_RADIO(ResourceContext hResourceContext, uint16_t iChannel, uint16_t* piStatusWord)
 {
-    const FormattedText entry("TANDEKOR_FTM_TUNE_FM_RADIO(iChannel = %d)", iChannel);
-    WriteToLog(hResourceContext, entry.Text());
-    BuildFtmHeader(catalogue::TuneFmRadio);
-    packetBuffer.AddWord(iChannel);
-    uint8_t errorByte = 0;
-    const uint8_t result = Exchange(&errorByte);
-    const uint16_t status = PopStatus({.statusWord = piStatusWord});
-    if (result == 0)
-        return NoReply(entry, errorByte);
-    return status == 0 || status == tunedElsewhere ? Completed(entry) : ErrorCode(entry, status);
+    const FormattedText text("%s(iChannel = %d)", __func__, iChannel);
+    return With(Ftm(hResourceContext),
+                [&](FtmChannel& ftm)
+                {
+                    ftm.Start(text);
+                    const uint8_t result = ftm.Exchange(factory::TuneFmRadio, {iChannel});
+                    const uint16_t status = ftm.TakeStatus(piStatusWord);
+                    if (result == 0)
+                        return ftm.NoReply(text);
+                    return status == 0 || status == tunedElsewhere ? ftm.Completed(text) : ftm.ErrorCode(text, status);
+                });
 }
 
-uint8_t FtmChannel::RM_RADIO_RDS_TEST(uint16_t* piStatusWord)
+uint8_t TANDEKOR_FTM_RM_RADIO_RDS_TEST(ResourceContext hResourceContext, uint16_t* piStatusWord)
 {
-    return Standard(
-        FormattedText("TANDEKOR_FTM_RM_RADIO_RDS_TEST()"), catalogue::RadioRdsTest, [] {}, [] {},
-        {.statusWord = piStatusWord});
+    return Forward(Ftm(hResourceContext), &FtmChannel::Standard, FormattedText("%s()", __func__), factory::RadioRdsTest,
+                   {.statusWord = piStatusWord});
 }
 
-// The closing texts begin with a line end. The fields are taken whatever the status is.
-template <typename Take>
-uint8_t FtmChannel::FmBlock(const char* entryName, const char* name, uint8_t subCommand, Take take)
+uint8_t TANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF(ResourceContext hResourceContext, uint8_t* piFmStatus, uint8_t* piFmScanValid,
+                                          uint8_t* piFmScanCount, uint16_t* piFmScanList)
 {
-    constexpr size_t dataLength = 101;
-    Trace(hResourceContext, "%s()", entryName);
-    BuildFtmHeader(catalogue::FmRadioBlock);
-    const uint8_t data[dataLength] = {0, subCommand};
-    packetBuffer.AddBytes(data, dataLength);
-    uint8_t errorByte = 0;
-    if (ExchangeWithTimeout(blockTimeMs, &errorByte) == 0)
-    {
-        Trace(hResourceContext, "\n%s() - SendSync() fail (error code = %i)", name, errorByte);
-        return 0;
-    }
-    FmReply reply;
-    packetBuffer.PopBytes(reply.bytes, FmReply::size);
-    take(reply);
-    const uint8_t status = reply.Byte(10);
-    if (status != 0)
-    {
-        Trace(hResourceContext, "\n%s() - error code = %d", name, status);
-        return 0;
-    }
-    Trace(hResourceContext, "\n%s() - Completed successfully\n", name);
-    return 1;
-}
-
-uint8_t FtmChannel::FM_RADIO_SCAN_ALL_RF(uint8_t* piFmStatus, uint8_t* piFmScanValid, uint8_t* piFmScanCount,
-                                         uint16_t* piFmScanList)
-{
-    return FmBlock("TANDEKOR_FTM_FM_RADIO_SCAN_RF", "TANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF", scan,
+    return FmBlock(hResourceContext, "TANDEKOR_FTM_FM_RADIO_SCAN_RF", __func__, scan,
                    [&](const FmReply& reply)
                    {
                        *piFmStatus = reply.Byte(10);
@@ -106,14 +111,14 @@ uint8_t FtmChannel::FM_RADIO_SCAN_ALL_RF(uint8_t* piFmStatus, uint8_t* piFmScanV
                    });
 }
 
-uint8_t FtmChannel::FM_RADIO_GET_STATION_INFO(uint8_t* piFmStatus, uint8_t* piStationField1, uint16_t* piStationField2,
-                                              uint8_t* piStationField3, uint8_t* piStationField4,
-                                              uint16_t* piStationField5, uint8_t* piStationField6,
-                                              uint8_t* piStationField7, uint8_t* piStationField8,
-                                              uint8_t* piStationField9, uint16_t* piStationField10)
+uint8_t TANDEKOR_FTM_FM_RADIO_GET_STATION_INFO(ResourceContext hResourceContext, uint8_t* piFmStatus,
+                                               uint8_t* piStationField1, uint16_t* piStationField2,
+                                               uint8_t* piStationField3, uint8_t* piStationField4,
+                                               uint16_t* piStationField5, uint8_t* piStationField6,
+                                               uint8_t* piStationField7, uint8_t* piStationField8,
+                                               uint8_t* piStationField9, uint16_t* piStationField10)
 {
-    constexpr char name[] = "TANDEKOR_FTM_FM_RADIO_GET_STATION_INFO";
-    return FmBlock(name, name, stationInfo,
+    return FmBlock(hResourceContext, __func__, __func__, stationInfo,
                    [&](const FmReply& reply)
                    {
                        *piFmStatus = reply.Byte(10);
@@ -131,11 +136,11 @@ uint8_t FtmChannel::FM_RADIO_GET_STATION_INFO(uint8_t* piFmStatus, uint8_t* piSt
 }
 
 // A program text without a NUL ends with the block.
-uint8_t FtmChannel::FM_RADIO_GET_PROGRAM_INFO(uint8_t* piFmStatus, uint16_t* piProgramField1, uint8_t* piProgramField2,
-                                              char* psProgramText, uint8_t* piProgramField3, uint8_t* piProgramField4)
+uint8_t TANDEKOR_FTM_FM_RADIO_GET_PROGRAM_INFO(ResourceContext hResourceContext, uint8_t* piFmStatus,
+                                               uint16_t* piProgramField1, uint8_t* piProgramField2, char* psProgramText,
+                                               uint8_t* piProgramField3, uint8_t* piProgramField4)
 {
-    constexpr char name[] = "TANDEKOR_FTM_FM_RADIO_GET_PROGRAM_INFO";
-    return FmBlock(name, name, programInfo,
+    return FmBlock(hResourceContext, __func__, __func__, programInfo,
                    [&](const FmReply& reply)
                    {
                        *piFmStatus = reply.Byte(10);
@@ -148,5 +153,3 @@ uint8_t FtmChannel::FM_RADIO_GET_PROGRAM_INFO(uint8_t* piFmStatus, uint16_t* piP
                        *piProgramField4 = reply.Byte(26);
                    });
 }
-
-}  // namespace tandekor

@@ -2,10 +2,11 @@
 #include <cstring>
 
 #include "channels/ftm_channel.h"
+#include "connection/forward.h"
 #include "platform/qmsl.h"
+#include "tandekor/ftm.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -16,86 +17,72 @@ constexpr uint16_t hwIdOfThatBuild = 8;
 
 }  // namespace
 
-uint8_t FtmChannel::GET_HARDWARE_VERSION(uint32_t* piHardwareVersion)
+uint8_t TANDEKOR_FTM_GET_HARDWARE_VERSION(ResourceContext hResourceContext, uint32_t* piHardwareVersion)
 {
-    return Standard(
-        FormattedText("TANDEKOR_FTM_GET_HARDWARE_VERSION()"), catalogue::GetHardwareVersion, [] {},
-        [&] { packetBuffer.PopDword(piHardwareVersion); });
+    return Forward(Ftm(hResourceContext), &FtmChannel::Standard, FormattedText("%s()", __func__),
+                   factory::GetHardwareVersion, {.reply = {piHardwareVersion}});
 }
 
-uint8_t FtmChannel::GET_HW_ID(uint16_t* piHwId)
+uint8_t TANDEKOR_FTM_GET_HW_ID(ResourceContext hResourceContext, uint16_t* piHwId)
 {
-    const FormattedText entry("TANDEKOR_FTM_GET_HW_ID()");
-    WriteToLog(hResourceContext, entry.Text());
-
-    uint32_t hardwareVersion = 0;
-    uint32_t mobModel = 0;
-    char buildId[512] = {};
-    char buildModel[512] = {};
-    if (QLIB_DIAG_EXT_BUILD_ID_F(hResourceContext, &hardwareVersion, &mobModel, buildId, buildModel) != 0)
-    {
-        Trace(hResourceContext, "QLIB_DIAG_EXT_BUILD_ID_F()");
-        buildId[sizeof buildId - 1] = '\0';
-        if (std::strstr(buildId, buildWithoutHwId) != nullptr)
+    const FormattedText text("%s()", __func__);
+    return With(
+        Ftm(hResourceContext),
+        [&](FtmChannel& ftm)
         {
-            *piHwId = hwIdOfThatBuild;
-            return 1;
-        }
-    }
-    return StandardBehindEntry(
-        entry, catalogue::GetHwId, [] {}, [&] { packetBuffer.PopWord(piHwId); });
+            ftm.Start(text);
+            uint32_t hardwareVersion = 0;
+            uint32_t mobModel = 0;
+            char buildId[512] = {};
+            char buildModel[512] = {};
+            if (QLIB_DIAG_EXT_BUILD_ID_F(hResourceContext, &hardwareVersion, &mobModel, buildId, buildModel) != 0)
+            {
+                Trace(hResourceContext, "QLIB_DIAG_EXT_BUILD_ID_F()");
+                buildId[sizeof buildId - 1] = '\0';
+                if (std::strstr(buildId, buildWithoutHwId) != nullptr)
+                {
+                    *piHwId = hwIdOfThatBuild;
+                    return true;
+                }
+            }
+            return ftm.StandardAfterStart(text, factory::GetHwId, {.reply = {piHwId}});
+        });
 }
 
-uint8_t FtmChannel::GET_NAND_FLASH_ID(uint16_t* piNandFlashId)
+uint8_t TANDEKOR_FTM_GET_NAND_FLASH_ID(ResourceContext hResourceContext, uint16_t* piNandFlashId)
 {
-    return Standard(
-        FormattedText("TANDEKOR_FTM_GET_NAND_FLASH_ID()"), catalogue::GetNandFlashId, [] {},
-        [&] { packetBuffer.PopWord(piNandFlashId); });
+    return Forward(Ftm(hResourceContext), &FtmChannel::Standard, FormattedText("%s()", __func__),
+                   factory::GetNandFlashId, {.reply = {piNandFlashId}});
 }
 
-// A phone that refuses the request is asked once more in the LTM form. A missing reply leaves no text.
-uint8_t FtmChannel::GET_FUEL_GAUGE_VERSION(uint8_t* piFuelGaugeVersion)
+// A phone that refuses the request is asked once more in the LTM form. A missing reply leaves no result line.
+uint8_t TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION(ResourceContext hResourceContext, uint8_t* piFuelGaugeVersion)
 {
-    uint16_t status = 0;
-    const auto askForVersion = [&]
+    const auto ask = [&](FtmChannel& ftm, const char* text, const factory::Request& request, uint16_t* status)
     {
-        uint8_t errorByte = 0;
-        if (Exchange(&errorByte) == 0)
+        const FormattedText line("%s", text);
+        ftm.Start(line);
+        if (ftm.Exchange(request, {}) == 0)
             return false;
-        packetBuffer.PopByte(piFuelGaugeVersion);
-        status = 0;
-        packetBuffer.PopWord(&status);
-        return true;
+        ftm.Take({piFuelGaugeVersion});
+        *status = ftm.TakeStatus();
+        return *status != 0 ? ftm.ErrorCode(line, *status) : ftm.Completed(line);
     };
-
-    const FormattedText entry("TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()");
-    WriteToLog(hResourceContext, entry.Text());
-    BuildFtmHeader(catalogue::GetFuelGaugeVersion);
-    if (!askForVersion())
-        return 0;
-    if (status == 0)
-        return Completed(entry);
-    ErrorCode(entry, status);
-
-    const FormattedText ltmEntry("TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()");
-    BuildFtmHeader(catalogue::LtmGetFuelGaugeVersion);
-    WriteToLog(hResourceContext, ltmEntry.Text());
-    if (!askForVersion())
-        return 0;
-    return status != 0 ? ErrorCode(ltmEntry, status) : Completed(ltmEntry);
+    return With(Ftm(hResourceContext),
+                [&](FtmChannel& ftm)
+                {
+                    uint16_t status = 0;
+                    if (ask(ftm, "TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()", factory::GetFuelGaugeVersion, &status))
+                        return true;
+                    return status != 0
+                           && ask(ftm, "TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()", factory::LtmGetFuelGaugeVersion,
+                                  &status);
+                });
 }
 
-uint8_t FtmChannel::GET_BT_PARAM(uint16_t* piBtStatus, uint8_t* piBtParam1, uint8_t* piBtParam2, uint8_t* piBtParam3)
+uint8_t TANDEKOR_FTM_GET_BT_PARAM(ResourceContext hResourceContext, uint16_t* piBtStatus, uint8_t* piBtParam1,
+                                  uint8_t* piBtParam2, uint8_t* piBtParam3)
 {
-    return Standard(
-        FormattedText("TANDEKOR_FTM_GET_BT_PARAM()"), catalogue::GetBtParam, [] {},
-        [&]
-        {
-            packetBuffer.PopByte(piBtParam3);
-            packetBuffer.PopByte(piBtParam2);
-            packetBuffer.PopByte(piBtParam1);
-        },
-        {.statusWord = piBtStatus});
+    return Forward(Ftm(hResourceContext), &FtmChannel::Standard, FormattedText("%s()", __func__), factory::GetBtParam,
+                   {.reply = {piBtParam1, piBtParam2, piBtParam3}, .statusWord = piBtStatus});
 }
-
-}  // namespace tandekor

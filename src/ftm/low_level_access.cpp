@@ -1,8 +1,9 @@
 // The phone's low-level peripherals: pins, I2C devices, ADC, fuel gauge, headset amplifier.
 #include "channels/ftm_channel.h"
+#include "connection/forward.h"
+#include "tandekor/ftm.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -13,246 +14,243 @@ constexpr uint8_t i2cRead = 0;
 constexpr uint8_t i2cWrite = 1;
 constexpr int replyHeaderLength = 10;
 
+// A pin command. The text shows its arguments as they stand each time; the values are taken only if the phone's status,
+// the last byte of the reply, is 0.
+template <typename Text>
+uint8_t Pin(ResourceContext hResourceContext, Text text, uint32_t operationCode, std::initializer_list<uint8_t> data,
+            uint8_t* iStatus, std::initializer_list<ReplyField> values)
+{
+    return With(Ftm(hResourceContext),
+                [&](FtmChannel& ftm)
+                {
+                    ftm.Start(text());
+                    if (ftm.ExchangeOem(pinCommandWord, operationCode, data) == 0)
+                        return ftm.ErrorCode(text(), ftm.ErrorByte());
+                    ftm.Take({iStatus});
+                    if (*iStatus != 0)
+                    {
+                        Trace(hResourceContext, "\t%s - Wrong status = %i", text().Text(), *iStatus);
+                        return false;
+                    }
+                    ftm.Take(values);
+                    return ftm.Completed(text());
+                });
+}
+
+uint8_t GetPin(ResourceContext hResourceContext, const char* name, uint32_t operationCode, uint8_t iGPIONum,
+               uint8_t* iValue, uint8_t* iStatus)
+{
+    const auto text = [&]
+    { return FormattedText("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, *iValue, *iStatus); };
+    return Pin(hResourceContext, text, operationCode, {iGPIONum}, iStatus, {iValue});
+}
+
+uint8_t SetPin(ResourceContext hResourceContext, const char* name, uint32_t operationCode, uint8_t iGPIONum,
+               uint8_t iValue, uint8_t* iStatus)
+{
+    const auto text = [&]
+    { return FormattedText("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, iValue, *iStatus); };
+    return Pin(hResourceContext, text, operationCode, {iGPIONum, iValue}, iStatus, {});
+}
+
 }  // namespace
 
 // --- pins
 
-template <typename Text>
-uint8_t FtmChannel::Gpio(Text text, uint32_t operationCode, std::initializer_list<uint8_t> requestBytes,
-                         uint8_t* iStatus, std::initializer_list<uint8_t*> values)
+uint8_t TANDEKOR_GPIO_GET_OUT(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t* iValue, uint8_t* iStatus)
 {
-    WriteToLog(hResourceContext, text().Text());
-    BuildOemHeader(pinCommandWord, operationCode);
-    for (const uint8_t byte : requestBytes)
-        packetBuffer.AddByte(byte);
-    uint8_t errorByte = 0;
-    if (Exchange(&errorByte) == 0)
-        return ErrorCode(text(), errorByte);
-    packetBuffer.PopByte(iStatus);
-    if (*iStatus != 0)
+    return GetPin(hResourceContext, __func__, 0, iGPIONum, iValue, iStatus);
+}
+
+uint8_t TANDEKOR_GPIO_SET_OUT(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t iValue, uint8_t* iStatus)
+{
+    return SetPin(hResourceContext, __func__, 1, iGPIONum, iValue, iStatus);
+}
+
+uint8_t TANDEKOR_GPIO_GET_IN(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t* iValue, uint8_t* iStatus)
+{
+    return GetPin(hResourceContext, __func__, 2, iGPIONum, iValue, iStatus);
+}
+
+uint8_t TANDEKOR_GPIO_GET_OE(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t* iValue, uint8_t* iStatus)
+{
+    return GetPin(hResourceContext, __func__, 3, iGPIONum, iValue, iStatus);
+}
+
+uint8_t TANDEKOR_GPIO_SET_OE(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t iValue, uint8_t* iStatus)
+{
+    return SetPin(hResourceContext, __func__, 4, iGPIONum, iValue, iStatus);
+}
+
+uint8_t TANDEKOR_GPIO_GET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t* iSelect, uint8_t* iPullUD,
+                              uint8_t* iPullEn, uint8_t* iDir, uint8_t* iStatus)
+{
+    const auto text = [&, name = __func__]
     {
-        Trace(hResourceContext, "\t%s - Wrong status = %i", text().Text(), *iStatus);
-        return 0;
-    }
-    for (uint8_t* value : values)
-        packetBuffer.PopByte(value);
-    return Completed(text());
-}
-
-uint8_t FtmChannel::GetPin(const char* name, uint32_t operationCode, uint8_t iGPIONum, uint8_t* iValue,
-                           uint8_t* iStatus)
-{
-    const auto text = [&]
-    { return FormattedText("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, *iValue, *iStatus); };
-    return Gpio(text, operationCode, {iGPIONum}, iStatus, {iValue});
-}
-
-uint8_t FtmChannel::SetPin(const char* name, uint32_t operationCode, uint8_t iGPIONum, uint8_t iValue, uint8_t* iStatus)
-{
-    const auto text = [&]
-    { return FormattedText("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, iValue, *iStatus); };
-    return Gpio(text, operationCode, {iGPIONum, iValue}, iStatus, {});
-}
-
-uint8_t FtmChannel::GPIO_GET_OUT(uint8_t iGPIONum, uint8_t* iValue, uint8_t* iStatus)
-{
-    return GetPin("TANDEKOR_GPIO_GET_OUT", 0, iGPIONum, iValue, iStatus);
-}
-
-uint8_t FtmChannel::GPIO_SET_OUT(uint8_t iGPIONum, uint8_t iValue, uint8_t* iStatus)
-{
-    return SetPin("TANDEKOR_GPIO_SET_OUT", 1, iGPIONum, iValue, iStatus);
-}
-
-uint8_t FtmChannel::GPIO_GET_IN(uint8_t iGPIONum, uint8_t* iValue, uint8_t* iStatus)
-{
-    return GetPin("TANDEKOR_GPIO_GET_IN", 2, iGPIONum, iValue, iStatus);
-}
-
-uint8_t FtmChannel::GPIO_GET_OE(uint8_t iGPIONum, uint8_t* iValue, uint8_t* iStatus)
-{
-    return GetPin("TANDEKOR_GPIO_GET_OE", 3, iGPIONum, iValue, iStatus);
-}
-
-uint8_t FtmChannel::GPIO_SET_OE(uint8_t iGPIONum, uint8_t iValue, uint8_t* iStatus)
-{
-    return SetPin("TANDEKOR_GPIO_SET_OE", 4, iGPIONum, iValue, iStatus);
-}
-
-uint8_t FtmChannel::GPIO_GET_CFG(uint8_t iGPIONum, uint8_t* iSelect, uint8_t* iPullUD, uint8_t* iPullEn, uint8_t* iDir,
-                                 uint8_t* iStatus)
-{
-    const auto text = [&]
-    {
-        return FormattedText(
-            "TANDEKOR_GPIO_GET_CFG(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, "
-            "iDir = %i, iStatus = %i)",
-            iGPIONum, *iSelect, *iPullUD, *iPullEn, *iDir, *iStatus);
+        return FormattedText("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)",
+                             name, iGPIONum, *iSelect, *iPullUD, *iPullEn, *iDir, *iStatus);
     };
-    return Gpio(text, 5, {iGPIONum}, iStatus, {iDir, iPullEn, iPullUD, iSelect});
+    return Pin(hResourceContext, text, 5, {iGPIONum}, iStatus, {iSelect, iPullUD, iPullEn, iDir});
 }
 
-uint8_t FtmChannel::GPIO_SET_CFG(uint8_t iGPIONum, uint8_t iSelect, uint8_t iPullUD, uint8_t iPullEn, uint8_t iDir,
-                                 uint8_t* iStatus)
+uint8_t TANDEKOR_GPIO_SET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t iSelect, uint8_t iPullUD,
+                              uint8_t iPullEn, uint8_t iDir, uint8_t* iStatus)
 {
-    const auto text = [&]
+    const auto text = [&, name = __func__]
     {
-        return FormattedText(
-            "TANDEKOR_GPIO_SET_CFG(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, "
-            "iDir = %i, iStatus = %i)",
-            iGPIONum, iSelect, iPullUD, iPullEn, iDir, *iStatus);
+        return FormattedText("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)",
+                             name, iGPIONum, iSelect, iPullUD, iPullEn, iDir, *iStatus);
     };
-    return Gpio(text, 6, {iGPIONum, iSelect, iPullUD, iPullEn, iDir}, iStatus, {});
+    return Pin(hResourceContext, text, 6, {iGPIONum, iSelect, iPullUD, iPullEn, iDir}, iStatus, {});
 }
 
 // --- I2C
 
-uint8_t FtmChannel::I2C_DATA_ACCESS(uint8_t iI2C_AccessType, uint8_t iI2C_SlaveAddr, uint8_t iI2C_RegAddrLen,
-                                    uint16_t iI2C_RegAddr, uint8_t iI2C_DataLen, uint8_t* piI2C_Data)
-{
-    return I2C_DATA_ACCESS2(iI2C_AccessType, 0, iI2C_SlaveAddr, iI2C_RegAddrLen, iI2C_RegAddr, iI2C_DataLen,
-                            piI2C_Data);
-}
-
-// The entry text is that of the other function, without the selector; the closing texts are this one's, for both.
-uint8_t FtmChannel::I2C_DATA_ACCESS2(uint8_t iI2C_AccessType, uint8_t iI2C_Selector, uint8_t iI2C_SlaveAddr,
+uint8_t TANDEKOR_FTM_I2C_DATA_ACCESS(ResourceContext hResourceContext, uint8_t iI2C_AccessType, uint8_t iI2C_SlaveAddr,
                                      uint8_t iI2C_RegAddrLen, uint16_t iI2C_RegAddr, uint8_t iI2C_DataLen,
                                      uint8_t* piI2C_Data)
 {
-    Trace(hResourceContext,
-          "TANDEKOR_FTM_I2C_DATA_ACCESS(iI2C_AccessType = 0x%X, iI2C_SlaveAddr = 0x%X, iI2C_RegAddrLen = 0x%X, "
-          "iI2C_RegAddr = 0x%X, iI2C_DataLen = 0x%X, piI2C_Data[0] = 0x%X)",
-          iI2C_AccessType, iI2C_SlaveAddr, iI2C_RegAddrLen, iI2C_RegAddr, iI2C_DataLen,
-          piI2C_Data == nullptr ? 0 : piI2C_Data[0]);
-    const FormattedText closing(
-        "TANDEKOR_FTM_I2C_DATA_ACCESS2(iI2C_AccessType = 0x%X, iI2C_SlaveAddr = 0x%X, iI2C_RegAddrLen = 0x%X, "
-        "iI2C_RegAddr = 0x%X, iI2C_DataLen = 0x%X)",
-        iI2C_AccessType, iI2C_SlaveAddr, iI2C_RegAddrLen, iI2C_RegAddr, iI2C_DataLen);
+    return TANDEKOR_FTM_I2C_DATA_ACCESS2(hResourceContext, iI2C_AccessType, 0, iI2C_SlaveAddr, iI2C_RegAddrLen,
+                                         iI2C_RegAddr, iI2C_DataLen, piI2C_Data);
+}
 
-    catalogue::Command command = catalogue::I2cDataAccess;
-    uint16_t& dataSide = iI2C_AccessType == i2cRead ? command.responseLength : command.dataLength;
-    dataSide = static_cast<uint16_t>(dataSide + iI2C_DataLen);
-    BuildFtmHeader(command);
-    packetBuffer.AddByte(iI2C_AccessType);
-    packetBuffer.AddByte(iI2C_Selector);
-    packetBuffer.AddByte(iI2C_SlaveAddr);
-    packetBuffer.AddByte(iI2C_RegAddrLen);
-    packetBuffer.AddWord(iI2C_RegAddr);
-    packetBuffer.AddByte(iI2C_DataLen);
-    if (iI2C_AccessType == i2cWrite)
-        packetBuffer.AddBytes(piI2C_Data, iI2C_DataLen);
-
-    uint8_t errorByte = 0;
-    uint16_t status = 0;
-    if (Exchange(&errorByte) != 0)
-    {
-        if (iI2C_AccessType != i2cRead)
-            return Completed(closing);
-        // The status word in front of the data is not counted here.
-        if (packetBuffer.ResponseLength() >= iI2C_DataLen + replyHeaderLength)
+// The start line is that of the other function, without the selector; the result lines are this one's, for both.
+uint8_t TANDEKOR_FTM_I2C_DATA_ACCESS2(ResourceContext hResourceContext, uint8_t iI2C_AccessType, uint8_t iI2C_Selector,
+                                      uint8_t iI2C_SlaveAddr, uint8_t iI2C_RegAddrLen, uint16_t iI2C_RegAddr,
+                                      uint8_t iI2C_DataLen, uint8_t* piI2C_Data)
+{
+    const FormattedText text(
+        "%s(iI2C_AccessType = 0x%X, iI2C_SlaveAddr = 0x%X, iI2C_RegAddrLen = 0x%X, iI2C_RegAddr = 0x%X, "
+        "iI2C_DataLen = 0x%X)",
+        __func__, iI2C_AccessType, iI2C_SlaveAddr, iI2C_RegAddrLen, iI2C_RegAddr, iI2C_DataLen);
+    return With(
+        Ftm(hResourceContext),
+        [&](FtmChannel& ftm)
         {
-            packetBuffer.PopBytes(piI2C_Data, iI2C_DataLen);
-            packetBuffer.PopWord(&status);
-            if (status == 0)
-                return Completed(closing);
-        }
-    }
-    return errorByte != 0 ? NoReply(closing, errorByte) : ErrorCode(closing, status);
+            Trace(hResourceContext,
+                  "TANDEKOR_FTM_I2C_DATA_ACCESS(iI2C_AccessType = 0x%X, iI2C_SlaveAddr = 0x%X, iI2C_RegAddrLen = 0x%X, "
+                  "iI2C_RegAddr = 0x%X, iI2C_DataLen = 0x%X, piI2C_Data[0] = 0x%X)",
+                  iI2C_AccessType, iI2C_SlaveAddr, iI2C_RegAddrLen, iI2C_RegAddr, iI2C_DataLen,
+                  piI2C_Data == nullptr ? 0 : piI2C_Data[0]);
+
+            factory::Request request = factory::I2cDataAccess;
+            uint16_t& dataSide = iI2C_AccessType == i2cRead ? request.responseLength : request.dataLength;
+            dataSide = static_cast<uint16_t>(dataSide + iI2C_DataLen);
+            const size_t sentLength = iI2C_AccessType == i2cWrite ? iI2C_DataLen : 0;
+            uint16_t status = 0;
+            if (ftm.Exchange(request, {iI2C_AccessType, iI2C_Selector, iI2C_SlaveAddr, iI2C_RegAddrLen, iI2C_RegAddr,
+                                       iI2C_DataLen, SentBytes(piI2C_Data, sentLength)})
+                != 0)
+            {
+                if (iI2C_AccessType != i2cRead)
+                    return ftm.Completed(text);
+                // The status word before the data is not counted here.
+                if (ftm.ReplyLength() >= iI2C_DataLen + replyHeaderLength)
+                {
+                    ftm.Take({ReplyBytes(piI2C_Data, iI2C_DataLen)});
+                    status = ftm.TakeStatus();
+                    if (status == 0)
+                        return ftm.Completed(text);
+                }
+            }
+            return ftm.ErrorByte() != 0 ? ftm.NoReply(text) : ftm.ErrorCode(text, status);
+        });
 }
 
 // --- ADC
 
-uint8_t FtmChannel::MGET_ADC_VAL(uint16_t iADC_Channel, uint16_t iReadCount, uint32_t* iADC_Sum)
+uint8_t TANDEKOR_FTM_MGET_ADC_VAL(ResourceContext hResourceContext, uint16_t iADC_Channel, uint16_t iReadCount,
+                                  uint32_t* iADC_Sum)
 {
-    const auto closing = [&]
-    {
-        return FormattedText("TANDEKOR_FTM_MGET_ADC_VAL(iADC_Channel = %d, iReadCount = %d, iADC_Sum = %d)",
-                             iADC_Channel, iReadCount, *iADC_Sum);
-    };
-    Trace(hResourceContext, "TANDEKOR_FTM_MGET_ADC_VAL(iADC_Channel = %d, iReadCount = %d)", iADC_Channel, iReadCount);
-    BuildFtmHeader(catalogue::MgetAdcVal);
-    packetBuffer.AddWord(iADC_Channel);
-    packetBuffer.AddWord(iReadCount);
-    uint8_t errorByte = 0;
-    if (Exchange(&errorByte) == 0)
-        return NoReply(closing(), errorByte);
-    packetBuffer.PopDword(iADC_Sum);
-    const uint16_t status = PopStatus({});
-    return status != 0 ? ErrorCode(closing(), status) : Completed(closing());
+    return With(Ftm(hResourceContext),
+                [&, name = __func__](FtmChannel& ftm)
+                {
+                    const auto text = [&]
+                    {
+                        return FormattedText("%s(iADC_Channel = %d, iReadCount = %d, iADC_Sum = %d)", name,
+                                             iADC_Channel, iReadCount, *iADC_Sum);
+                    };
+                    Trace(hResourceContext, "%s(iADC_Channel = %d, iReadCount = %d)", name, iADC_Channel, iReadCount);
+                    if (ftm.Exchange(factory::MgetAdcVal, {iADC_Channel, iReadCount}) == 0)
+                        return ftm.NoReply(text());
+                    ftm.Take({iADC_Sum});
+                    const uint16_t status = ftm.TakeStatus();
+                    return status != 0 ? ftm.ErrorCode(text(), status) : ftm.Completed(text());
+                });
 }
 
 // --- fuel gauge
 
-uint8_t FtmChannel::GG_READ_REG(uint8_t eNum, uint8_t* sStatus, uint16_t* iValue)
+uint8_t TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum, uint8_t* sStatus, uint16_t* iValue)
 {
-    const auto text = [&] {
-        return FormattedText("TANDEKOR_FTM_GG_READ_REG(eNum = %i, sStatus = %i, iValue = %i)", eNum, *sStatus, *iValue);
-    };
-    WriteToLog(hResourceContext, text().Text());
-    BuildFtmHeader(catalogue::GgReadReg);
-    packetBuffer.AddByte(eNum);
-    packetBuffer.AddByte(*sStatus);
-    packetBuffer.AddWord(*iValue);
-    uint8_t errorByte = 0;
-    if (Exchange(&errorByte) == 0)
-    {
-        Trace(hResourceContext, "\t%s - error code = %d\n", text().Text(), errorByte);
-        return 0;
-    }
-    packetBuffer.PopWord(iValue);
-    packetBuffer.PopByte(sStatus);
-    if (*sStatus == 0)
-        return Completed(text());
-    Trace(hResourceContext, "\t%s - Wrong status (%d)\n", text().Text(), *sStatus);
-    return 0;
+    return With(Ftm(hResourceContext),
+                [&, name = __func__](FtmChannel& ftm)
+                {
+                    const auto text = [&] {
+                        return FormattedText("%s(eNum = %i, sStatus = %i, iValue = %i)", name, eNum, *sStatus, *iValue);
+                    };
+                    ftm.Start(text());
+                    if (ftm.Exchange(factory::GgReadReg, {eNum, *sStatus, *iValue}) == 0)
+                    {
+                        Trace(hResourceContext, "\t%s - error code = %d\n", text().Text(), ftm.ErrorByte());
+                        return false;
+                    }
+                    ftm.Take({sStatus, iValue});
+                    if (*sStatus == 0)
+                        return ftm.Completed(text());
+                    Trace(hResourceContext, "\t%s - Wrong status (%d)\n", text().Text(), *sStatus);
+                    return false;
+                });
 }
 
 // The phone repeats the value.
-uint8_t FtmChannel::GG_MODE(uint8_t* iSwitch)
+uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
 {
-    const uint8_t sent = *iSwitch;
-    const FormattedText text("TANDEKOR_FTM_GG_MODE(iSwitch = %i)", sent);
-    WriteToLog(hResourceContext, text.Text());
-    BuildFtmHeader(catalogue::GgMode);
-    packetBuffer.AddByte(sent);
-    uint8_t errorByte = 0;
-    if (Exchange(&errorByte) == 0)
-    {
-        Trace(hResourceContext, "\t%s - error code = %d\n", text.Text(), errorByte);
-        return 0;
-    }
-    uint8_t received = 0;
-    packetBuffer.PopByte(&received);
-    if (received == sent)
-        return Completed(text);
-    Trace(hResourceContext, "\t%s - Wrong iSwitch value received (%i) = %d\n", text.Text(), received, errorByte);
-    return 0;
+    return With(Ftm(hResourceContext),
+                [&, name = __func__](FtmChannel& ftm)
+                {
+                    const uint8_t sent = *iSwitch;
+                    const FormattedText text("%s(iSwitch = %i)", name, sent);
+                    ftm.Start(text);
+                    if (ftm.Exchange(factory::GgMode, {sent}) == 0)
+                    {
+                        Trace(hResourceContext, "\t%s - error code = %d\n", text.Text(), ftm.ErrorByte());
+                        return false;
+                    }
+                    uint8_t received = 0;
+                    ftm.Take({&received});
+                    if (received == sent)
+                        return ftm.Completed(text);
+                    // The number at the end is an error code, which no reply has.
+                    Trace(hResourceContext, "\t%s - Wrong iSwitch value received (%i) = 0\n", text.Text(), received);
+                    return false;
+                });
 }
 
 // --- headset amplifier. The reply is not unpacked.
 
-uint8_t FtmChannel::HEADSET_AMP_READ(uint32_t* iHeadsetReg)
+uint8_t TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext, uint32_t* iHeadsetReg)
 {
-    const FormattedText text("TANDEKOR_FTM_HEADSET_AMP_READ(iHeadsetReg = %d)", *iHeadsetReg);
-    WriteToLog(hResourceContext, text.Text());
-    BuildFtmHeader(catalogue::HeadsetAmpRead);
-    packetBuffer.AddDword(*iHeadsetReg);
-    uint8_t errorByte = 0;
-    const uint8_t result = Exchange(&errorByte);
-    result == 0 ? ErrorCode(text, errorByte) : Completed(text);
-    return result;
+    return With(Ftm(hResourceContext),
+                [&, name = __func__](FtmChannel& ftm)
+                {
+                    const FormattedText text("%s(iHeadsetReg = %d)", name, *iHeadsetReg);
+                    ftm.Start(text);
+                    const uint8_t result = ftm.Exchange(factory::HeadsetAmpRead, {*iHeadsetReg});
+                    result == 0 ? ftm.ErrorCode(text, ftm.ErrorByte()) : ftm.Completed(text);
+                    return result;
+                });
 }
 
-uint8_t FtmChannel::HEADSET_AMP_WRITE(uint32_t* iHeadsetReg)
+uint8_t TANDEKOR_FTM_HEADSET_AMP_WRITE(ResourceContext hResourceContext, uint32_t* iHeadsetReg)
 {
-    Trace(hResourceContext, "TANDEKOR_FTM_HEADSET_AMP_WRITE(iHeadsetReg = %d)", *iHeadsetReg);
-    const FormattedText closing("TANDEKOR_FTM_HEADSET_AMP_WRITE(iHeadsetReg = %u)", *iHeadsetReg);
-    BuildFtmHeader(catalogue::HeadsetAmpWrite);
-    packetBuffer.AddDword(*iHeadsetReg);
-    uint8_t errorByte = 0;
-    const uint8_t result = Exchange(&errorByte);
-    result == 0 ? ErrorCode(closing, errorByte) : Completed(closing);
-    return result;
+    return With(Ftm(hResourceContext),
+                [&, name = __func__](FtmChannel& ftm)
+                {
+                    Trace(hResourceContext, "%s(iHeadsetReg = %d)", name, *iHeadsetReg);
+                    const FormattedText text("%s(iHeadsetReg = %u)", name, *iHeadsetReg);
+                    const uint8_t result = ftm.Exchange(factory::HeadsetAmpWrite, {*iHeadsetReg});
+                    result == 0 ? ftm.ErrorCode(text, ftm.ErrorByte()) : ftm.Completed(text);
+                    return result;
+                });
 }
-
-}  // namespace tandekor
