@@ -108,9 +108,10 @@ uint8_t TANDEKOR_FTM_SET_FLASH_LIGHT_LEVEL(ResourceContext hResourceContext, uin
 // The lines of the log have a name of their own, but for the refusal's.
 uint8_t TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS(ResourceContext hResourceContext, uint8_t focusLevel)
 {
+    const char* const name = __func__;
     const FormattedText text("TANDEKOR_FTM_SET_I2C_CAMERA_FOCUS(focusLevel = %d)", focusLevel);
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     ftm.Start(text);
                     if (focusLevel == 0)

@@ -85,7 +85,8 @@ uint8_t TANDEKOR_GPIO_SET_OE(ResourceContext hResourceContext, uint8_t iGPIONum,
 uint8_t TANDEKOR_GPIO_GET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t* iSelect, uint8_t* iPullUD,
                               uint8_t* iPullEn, uint8_t* iDir, uint8_t* iStatus)
 {
-    const auto text = [&, name = __func__]
+    const char* const name = __func__;
+    const auto text = [&]
     {
         return FormattedText("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)",
                              name, iGPIONum, *iSelect, *iPullUD, *iPullEn, *iDir, *iStatus);
@@ -96,7 +97,8 @@ uint8_t TANDEKOR_GPIO_GET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum
 uint8_t TANDEKOR_GPIO_SET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum, uint8_t iSelect, uint8_t iPullUD,
                               uint8_t iPullEn, uint8_t iDir, uint8_t* iStatus)
 {
-    const auto text = [&, name = __func__]
+    const char* const name = __func__;
+    const auto text = [&]
     {
         return FormattedText("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)",
                              name, iGPIONum, iSelect, iPullUD, iPullEn, iDir, *iStatus);
@@ -162,8 +164,9 @@ uint8_t TANDEKOR_FTM_I2C_DATA_ACCESS2(ResourceContext hResourceContext, uint8_t 
 uint8_t TANDEKOR_FTM_MGET_ADC_VAL(ResourceContext hResourceContext, uint16_t iADC_Channel, uint16_t iReadCount,
                                   uint32_t* iADC_Sum)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     const auto text = [&]
                     {
@@ -183,8 +186,9 @@ uint8_t TANDEKOR_FTM_MGET_ADC_VAL(ResourceContext hResourceContext, uint16_t iAD
 
 uint8_t TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum, uint8_t* sStatus, uint16_t* iValue)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     const auto text = [&] {
                         return FormattedText("%s(eNum = %i, sStatus = %i, iValue = %i)", name, eNum, *sStatus, *iValue);
@@ -206,8 +210,9 @@ uint8_t TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum,
 // The phone repeats the value.
 uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     const uint8_t sent = *iSwitch;
                     const FormattedText text("%s(iSwitch = %i)", name, sent);
@@ -231,8 +236,9 @@ uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
 
 uint8_t TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext, uint32_t* iHeadsetReg)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     const FormattedText text("%s(iHeadsetReg = %d)", name, *iHeadsetReg);
                     ftm.Start(text);
@@ -244,8 +250,9 @@ uint8_t TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext, uint32_t
 
 uint8_t TANDEKOR_FTM_HEADSET_AMP_WRITE(ResourceContext hResourceContext, uint32_t* iHeadsetReg)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     Trace(hResourceContext, "%s(iHeadsetReg = %d)", name, *iHeadsetReg);
                     const FormattedText text("%s(iHeadsetReg = %u)", name, *iHeadsetReg);

@@ -69,8 +69,9 @@ uint8_t TANDEKOR_FTM_SIM_READ_IMSI(ResourceContext hResourceContext, uint8_t* iI
 // The one word of the reply is the mode; there is no status.
 uint8_t TANDEKOR_FTM_SIM_GET_MODE(ResourceContext hResourceContext, uint8_t* SIM_MODE)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     Trace(hResourceContext, "%s(SIM_MODE = %d)", name, *SIM_MODE);
                     if (ftm.Exchange(factory::SimGetMode, {}) == 0)
@@ -158,8 +159,9 @@ uint8_t TANDEKOR_FTM_LOAD_RF_NV(ResourceContext hResourceContext, uint16_t* piSt
 uint8_t TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(ResourceContext hResourceContext, uint8_t iGSM_Band,
                                              const uint16_t* iGSM_DACvsPower, uint16_t iDelay_ms)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel& ftm)
+                [&](FtmChannel& ftm)
                 {
                     const FormattedText text("%s(iGSM_Band = %d, iGSM_DACvsPower[0] = %d, iDelay_ms = %d)", name,
                                              iGSM_Band, iGSM_DACvsPower[0], iDelay_ms);
@@ -174,8 +176,9 @@ uint8_t TANDEKOR_FTM_WRITE_WCDMA_RF_CAL(ResourceContext hResourceContext, uint32
                                         uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t,
                                         uint32_t, uint32_t, uint32_t)
 {
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
-                [&, name = __func__](FtmChannel&)
+                [&](FtmChannel&)
                 {
                     Trace(hResourceContext, "%s()", name);
                     return false;
