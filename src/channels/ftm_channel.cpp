@@ -112,19 +112,19 @@ uint16_t FtmChannel::TakeStatus(uint16_t* statusWord)
 
 bool FtmChannel::NoReply(const FormattedText& text, uint16_t code)
 {
-    Trace(hResourceContext, "\t%s - SendSync() fail (error code = %i)", text.Text(), code);
+    text.WriteWithEnding(hResourceContext, " - SendSync() fail (error code = %i)", code);
     return false;
 }
 
 bool FtmChannel::ErrorCode(const FormattedText& text, uint16_t code)
 {
-    Trace(hResourceContext, "\t%s - error code = %d", text.Text(), code);
+    text.WriteWithEnding(hResourceContext, " - error code = %d", code);
     return false;
 }
 
 bool FtmChannel::Completed(const FormattedText& text)
 {
-    Trace(hResourceContext, "\t%s - Completed successfully\n", text.Text());
+    text.WriteWithEnding(hResourceContext, " - Completed successfully\n");
     return true;
 }
 

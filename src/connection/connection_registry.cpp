@@ -4,9 +4,9 @@
 #include <new>
 
 #include "channels/at_channel.h"
+#include "channels/boot_box_port.h"
 #include "channels/ftm_channel.h"
 #include "channels/obex_channel.h"
-#include "procedures/phone_procedures.h"
 
 namespace tandekor
 {
@@ -14,7 +14,7 @@ namespace tandekor
 ConnectionRecord::ConnectionRecord(ResourceContext handle, uint32_t port)
     : hResourceContext(handle),
       portNumber(port),
-      phoneProcedures(new (std::nothrow) PhoneProcedures(handle)),
+      bootBoxPort(new (std::nothrow) BootBoxPort),
       atChannel(new (std::nothrow) AtChannel(handle)),
       ftmChannel(new (std::nothrow) FtmChannel(handle)),
       obexChannel(new (std::nothrow) ObexChannel(handle))
@@ -24,7 +24,7 @@ ConnectionRecord::ConnectionRecord(ResourceContext handle, uint32_t port)
 // In the order in which they were made, so that the boot box port is released first.
 ConnectionRecord::~ConnectionRecord()
 {
-    delete phoneProcedures;
+    delete bootBoxPort;
     delete atChannel;
     delete ftmChannel;
     delete obexChannel;
@@ -72,9 +72,9 @@ void ConnectionRegistry::RemoveConnection(ResourceContext handle)
         --record->useCount;
 }
 
-PhoneProcedures* ConnectionRegistry::GetPhoneProcedures(ResourceContext handle)
+BootBoxPort* ConnectionRegistry::GetBootBoxPort(ResourceContext handle)
 {
-    return ServiceOf(handle, &ConnectionRecord::phoneProcedures);
+    return ServiceOf(handle, &ConnectionRecord::bootBoxPort);
 }
 
 FtmChannel* ConnectionRegistry::GetFtmChannel(ResourceContext handle)

@@ -12,7 +12,7 @@ namespace tandekor
 class AtChannel;
 class FtmChannel;
 class ObexChannel;
-class PhoneProcedures;
+class BootBoxPort;
 
 // One connected phone. A service object that could not be made for lack of memory is null, which its callers take for
 // an unknown handle.
@@ -26,7 +26,7 @@ struct ConnectionRecord
     ResourceContext hResourceContext;
     int32_t useCount = 1;  // connects of this handle that are open
     uint32_t portNumber;
-    PhoneProcedures* phoneProcedures;
+    BootBoxPort* bootBoxPort;
     AtChannel* atChannel;
     FtmChannel* ftmChannel;
     ObexChannel* obexChannel;
@@ -45,7 +45,7 @@ public:
     void RemoveAllConnections() { connections.clear(); }
 
     // Null for an unknown handle; the AT and OBEX channels are also out of reach in the QPST mode.
-    PhoneProcedures* GetPhoneProcedures(ResourceContext handle);
+    BootBoxPort* GetBootBoxPort(ResourceContext handle);
     FtmChannel* GetFtmChannel(ResourceContext handle);
     AtChannel* GetAtChannel(ResourceContext handle);
     ObexChannel* GetObexChannel(ResourceContext handle);

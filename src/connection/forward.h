@@ -12,10 +12,6 @@ namespace tandekor
 inline AtChannel* At(ResourceContext handle) { return ConnectionRegistry::Instance().GetAtChannel(handle); }
 inline FtmChannel* Ftm(ResourceContext handle) { return ConnectionRegistry::Instance().GetFtmChannel(handle); }
 inline ObexChannel* Obex(ResourceContext handle) { return ConnectionRegistry::Instance().GetObexChannel(handle); }
-inline PhoneProcedures* Procedures(ResourceContext handle)
-{
-    return ConnectionRegistry::Instance().GetPhoneProcedures(handle);
-}
 
 // The result of the work, which takes the channel and returns a byte or a bool.
 template <typename Channel, typename Work>

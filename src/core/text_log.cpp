@@ -1,23 +1,59 @@
 #include "core/text_log.h"
 
 #include <cstdio>
+#include <cstring>
 
 #include "platform/qmsl.h"
 
 namespace tandekor
 {
 
+LogLine::LogLine(const char* start)
+{
+    line[0] = '\0';
+    Add(start);
+}
+
+void LogLine::Add(const char* text)
+{
+    const size_t added = strnlen(text, sizeof line - 1 - length);
+    std::memcpy(line + length, text, added);
+    length += added;
+    line[length] = '\0';
+}
+
+void LogLine::AddFormatted(const char* format, va_list values)
+{
+    std::vsnprintf(line + length, sizeof line - length, format, values);
+    length += std::strlen(line + length);
+}
+
+void LogLine::Write(ResourceContext hResourceContext) const { WriteToLog(hResourceContext, line); }
+
 FormattedText::FormattedText(const char* format, ...)
 {
+    line[0] = '\t';
     va_list values;
     va_start(values, format);
-    std::vsnprintf(text, sizeof text, format, values);
+    std::vsnprintf(line + 1, textBufferSize, format, values);
     va_end(values);
 }
 
-FormattedText::FormattedText(FromList, const char* format, va_list values)
+void FormattedText::WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const
 {
-    std::vsnprintf(text, sizeof text, format, values);
+    char* const end = line + std::strlen(line);
+    const char last = line[textBufferSize - 1];
+    line[textBufferSize - 1] = '\0';
+    if (end < line + textBufferSize - 1)
+    {
+        va_list values;
+        va_start(values, format);
+        std::vsnprintf(end, static_cast<size_t>(line + textBufferSize - end), format, values);
+        va_end(values);
+    }
+    WriteToLog(hResourceContext, line);
+    line[textBufferSize - 1] = last;
+    *end = '\0';
 }
 
 void WriteToLog(ResourceContext hResourceContext, const char* text)
@@ -27,11 +63,12 @@ void WriteToLog(ResourceContext hResourceContext, const char* text)
 
 void Trace(ResourceContext hResourceContext, const char* format, ...)
 {
+    LogLine line("");
     va_list values;
     va_start(values, format);
-    const FormattedText text = FormattedText::Of(format, values);
+    line.AddFormatted(format, values);
     va_end(values);
-    WriteToLog(hResourceContext, text.Text());
+    line.Write(hResourceContext);
 }
 
 }  // namespace tandekor

@@ -9,27 +9,39 @@
 namespace tandekor
 {
 
-// Every text is formatted in an area of this size, NUL included, and cut to it.
-constexpr size_t textAreaSize = 12292;
+// Every text is formatted in a buffer of this size, NUL included, and cut to it.
+constexpr size_t textBufferSize = 12292;
 
-// A text formatted once, to be shown in one or several others. It ends at its first NUL, as C texts do: also at one
-// that a %c field of the value 0 puts into it.
+// A line of the log that is put together in one buffer. It ends at its first NUL, as C texts do: also at one that a %c
+// field of the value 0 puts into it; what is added next then takes the place of that NUL.
+class LogLine
+{
+public:
+    explicit LogLine(const char* start);
+
+    void Add(const char* text);
+    void AddFormatted(const char* format, va_list values);
+    void Write(ResourceContext hResourceContext) const;
+
+private:
+    size_t length = 0;
+    char line[textBufferSize];
+};
+
+// A text that is formatted once and stands in several lines of the log.
 class FormattedText
 {
 public:
     explicit FormattedText(const char* format, ...) __attribute__((format(printf, 2, 3)));
-    // The same from a list of values.
-    static FormattedText Of(const char* format, va_list values) { return {FromList{}, format, values}; }
 
-    const char* Text() const { return text; }
+    const char* Text() const { return line + 1; }
+
+    // Writes a tab, the text and an ending to the log.
+    void WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const
+        __attribute__((format(printf, 3, 4)));
 
 private:
-    struct FromList
-    {
-    };
-    FormattedText(FromList, const char* format, va_list values);
-
-    char text[textAreaSize];
+    mutable char line[1 + textBufferSize];  // with the tab, and an ending while that is written
 };
 
 // Writes one text to the text log of the connection, as it is.

@@ -219,7 +219,7 @@ uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
                     ftm.Start(text);
                     if (ftm.Exchange(factory::GgMode, {sent}) == 0)
                     {
-                        Trace(hResourceContext, "\t%s - error code = %d\n", text.Text(), ftm.ErrorByte());
+                        text.WriteWithEnding(hResourceContext, " - error code = %d\n", ftm.ErrorByte());
                         return false;
                     }
                     uint8_t received = 0;
@@ -227,7 +227,7 @@ uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
                     if (received == sent)
                         return ftm.Completed(text);
                     // The number at the end is an error code, which no reply has.
-                    Trace(hResourceContext, "\t%s - Wrong iSwitch value received (%i) = 0\n", text.Text(), received);
+                    text.WriteWithEnding(hResourceContext, " - Wrong iSwitch value received (%i) = 0\n", received);
                     return false;
                 });
 }

@@ -35,7 +35,7 @@ uint8_t TANDEKOR_FTM_SET_LOW_POWER_MODE(ResourceContext hResourceContext, uint8_
                     {
                         if (ftm.Exchange(factory::SetLowPowerMode, {iLowPowerMode}, deepestModeReplyTimeMs) != 0)
                         {
-                            Trace(hResourceContext, "\t%s - Failure\n", text.Text());
+                            text.WriteWithEnding(hResourceContext, " - Failure\n");
                             return false;
                         }
                     }
@@ -47,7 +47,7 @@ uint8_t TANDEKOR_FTM_SET_LOW_POWER_MODE(ResourceContext hResourceContext, uint8_
                         if (status != 0)
                             return ftm.ErrorCode(text, status);
                     }
-                    Trace(hResourceContext, "\t%s  - Completed successfully\n", text.Text());
+                    text.WriteWithEnding(hResourceContext, "  - Completed successfully\n");
                     return true;
                 });
 }
@@ -151,7 +151,7 @@ uint8_t TANDEKOR_FTM_RTC_START(ResourceContext hResourceContext, uint8_t* bStatu
                     const FormattedText reply(rtcStartText, *bStatus, timeHigh << 8 | timeLow);
                     if (*bStatus == 0)
                         return ftm.Completed(reply);
-                    Trace(hResourceContext, "\t%s - Wrong status (%d)\n", reply.Text(), *bStatus);
+                    reply.WriteWithEnding(hResourceContext, " - Wrong status (%d)\n", *bStatus);
                     return false;
                 });
 }
@@ -172,7 +172,7 @@ uint8_t TANDEKOR_FTM_RTC_OSC_CTRL(ResourceContext hResourceContext, uint8_t* bSt
                     if (*bStatus == 0)
                         return ftm.Completed(reply);
                     // The number at the end is an error code, which no reply has.
-                    Trace(hResourceContext, "\t%s - Wrong status (%i) = 0", reply.Text(), *bStatus);
+                    reply.WriteWithEnding(hResourceContext, " - Wrong status (%i) = 0", *bStatus);
                     return false;
                 });
 }

@@ -4,12 +4,11 @@
 
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -26,10 +25,11 @@ constexpr uint32_t disabledBitsRegister = 0x84001308;
 
 }  // namespace
 
-uint8_t PhoneProcedures::MicrophoneBiasVoltages(uint16_t iAudioDevice)
+uint8_t TANDEKOR_MicrophoneBiasVoltages(ResourceContext hResourceContext, uint16_t iAudioDevice)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !CallStep("QLIB_FTM_AUDIO_SET_PATH", QLIB_FTM_AUDIO_SET_PATH, "(iAudioDevice = %d)", iAudioDevice))
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection()
+        || !phone.CallStep("QLIB_FTM_AUDIO_SET_PATH", QLIB_FTM_AUDIO_SET_PATH, "(iAudioDevice = %d)", iAudioDevice))
         return 0;
     if (iAudioDevice != deviceWithRequest)
         return 1;
@@ -39,69 +39,76 @@ uint8_t PhoneProcedures::MicrophoneBiasVoltages(uint16_t iAudioDevice)
     uint8_t response[sizeof biasRequest] = {};
     HostWord responseSize(sizeof response);
     constexpr int requestSize = sizeof request;
-    if (!Step(
+    if (!phone.Step(
             "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %s, piResponseSize = %d, iTimeout = 2000)",
             [&] {
                 return QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response,
                                      rawRequestTimeMs);
             },
-            requestSize, ItemText<sizeof request>(request), *responseSize.Out()))
+            requestSize, ItemOf<sizeof request>(request), *responseSize.Out()))
         return 0;
     if (response[biasStatus] != 0)
     {
-        StepTrace(STEP_FAILURE, "QLIB_SendSync <cResponse[10] != 0>");
+        phone.StepTrace(STEP_FAILURE, "QLIB_SendSync <cResponse[10] != 0>");
         return 0;
     }
     return 1;
 }
 
-uint8_t PhoneProcedures::AudioTest(uint16_t iAudioDevice, uint8_t bLoopbackOn)
+uint8_t TANDEKOR_AudioTest(ResourceContext hResourceContext, uint16_t iAudioDevice, uint8_t bLoopbackOn)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && SetMicrophoneBias(iAudioDevice)
-           && CallStep("QLIB_FTM_AUDIO_PCM_LOOPBACK", QLIB_FTM_AUDIO_PCM_LOOPBACK, "(bLoopbackOn = %c)", bLoopbackOn);
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection() && phone.SetMicrophoneBias(iAudioDevice)
+           && phone.CallStep("QLIB_FTM_AUDIO_PCM_LOOPBACK", QLIB_FTM_AUDIO_PCM_LOOPBACK, "(bLoopbackOn = %c)",
+                             bLoopbackOn);
 }
 
 // The tone is stopped at once.
-uint8_t PhoneProcedures::TestSpeaker(uint16_t iAudioDevice, uint8_t iVolume, uint16_t iHiFreq, uint16_t iLoFreq)
+uint8_t TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDevice, uint8_t iVolume, uint16_t iHiFreq,
+                             uint16_t iLoFreq)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr uint16_t method = 0;
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && SetMicrophoneBias(iAudioDevice)
-           && CallStep("QLIB_FTM_AUDIO_SET_VOLUME", QLIB_FTM_AUDIO_SET_VOLUME, "(iVolume = %c)", iVolume)
-           && CallStep("QLIB_FTM_AUDIO_TONES_PLAY", QLIB_FTM_AUDIO_TONES_PLAY,
-                       "(iHiFreq = %d, iLoFreq = %d, iMethod = %d)", iHiFreq, iLoFreq, method)
-           && CallStep("QLIB_FTM_AUDIO_TONES_STOP", QLIB_FTM_AUDIO_TONES_STOP, "()");
+    return phone.CheckConnection() && phone.SetMicrophoneBias(iAudioDevice)
+           && phone.CallStep("QLIB_FTM_AUDIO_SET_VOLUME", QLIB_FTM_AUDIO_SET_VOLUME, "(iVolume = %c)", iVolume)
+           && phone.CallStep("QLIB_FTM_AUDIO_TONES_PLAY", QLIB_FTM_AUDIO_TONES_PLAY,
+                             "(iHiFreq = %d, iLoFreq = %d, iMethod = %d)", iHiFreq, iLoFreq, method)
+           && phone.CallStep("QLIB_FTM_AUDIO_TONES_STOP", QLIB_FTM_AUDIO_TONES_STOP, "()");
 }
 
 // The capture is not stopped after a failed fetch. The success line of its start lacks the closing bracket.
-uint8_t PhoneProcedures::TestMicrophone(uint16_t iNumBuffers, uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer,
-                                        uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
-                                        int16_t iCodecTxGainAdjust)
+uint8_t TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers, uint32_t iDataOffset,
+                                uint16_t iDataSize, void* pBuffer, uint16_t iItemID, uint8_t* pItemData,
+                                int32_t iLength, uint32_t /*iReservedWord*/, int16_t iCodecTxGainAdjust)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr uint32_t delayMs = 1000;
     const auto startCapture = [&]
     {
-        StepTrace(STEP_START, "\tQLIB_FTM_AUDIO_PCM_CAPTURE() start");
+        phone.StepTrace(STEP_START, "\tQLIB_FTM_AUDIO_PCM_CAPTURE() start");
         const bool done = QLIB_FTM_AUDIO_PCM_CAPTURE(hResourceContext, iNumBuffers, delayMs) != 0;
-        StepTrace(done ? STEP_SUCCESS : STEP_FAILURE, "QLIB_FTM_AUDIO_PCM_CAPTURE(iNumBuffers = %d, iDelay_ms = 1000%s",
-                  iNumBuffers, done ? "" : ")");
+        phone.StepTrace(done ? STEP_SUCCESS : STEP_FAILURE,
+                        "QLIB_FTM_AUDIO_PCM_CAPTURE(iNumBuffers = %d, iDelay_ms = 1000%s", iNumBuffers,
+                        done ? "" : ")");
         return done;
     };
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && startCapture()
-           && Step(
+    return phone.CheckConnection() && startCapture()
+           && phone.Step(
                "QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA", "(iDataOffset = %d, iDataSize = %d, pBuffer = %s)",
                [&] { return QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(hResourceContext, iDataOffset, iDataSize, pBuffer); },
-               iDataOffset, iDataSize, ItemText<textAreaSize>(pBuffer, iDataSize))
-           && CallStep("QLIB_FTM_AUDIO_PCM_STOP_CAPTURE", QLIB_FTM_AUDIO_PCM_STOP_CAPTURE, "()")
-           && WriteItem(iItemID, pItemData, iLength)
-           && CallStep("QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST", QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST,
-                       "(iCodecTxGainAdjust = %d)", iCodecTxGainAdjust);
+               iDataOffset, iDataSize, ItemOf<textBufferSize>(pBuffer, iDataSize))
+           && phone.CallStep("QLIB_FTM_AUDIO_PCM_STOP_CAPTURE", QLIB_FTM_AUDIO_PCM_STOP_CAPTURE, "()")
+           && phone.WriteItem(iItemID, pItemData, iLength)
+           && phone.CallStep("QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST", QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST,
+                             "(iCodecTxGainAdjust = %d)", iCodecTxGainAdjust);
 }
 
 // Neither checks the connection nor writes to the log; what becomes of the write is not looked at.
-uint8_t PhoneProcedures::DIAG_DISABLE_48KHz()
+uint8_t TANDEKOR_DIAG_DISABLE_48KHz(ResourceContext hResourceContext)
 {
     uint32_t value = 0;
-    if (QLIB_DIAG_MEMORY_PEEK_DWORD_F(hResourceContext, disabledBitsRegister, 1, &value) == 0)
+    if (!PhoneProcedure(hResourceContext).IsKnown()
+        || QLIB_DIAG_MEMORY_PEEK_DWORD_F(hResourceContext, disabledBitsRegister, 1, &value) == 0)
         return 0;
     value = (value & ~uint32_t{0x01}) | 0x0E;
 
@@ -122,5 +129,3 @@ uint8_t PhoneProcedures::DIAG_DISABLE_48KHz()
     QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response, rawRequestTimeMs);
     return 1;
 }
-
-}  // namespace tandekor

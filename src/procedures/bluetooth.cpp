@@ -3,12 +3,12 @@
 #include <cstring>
 
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/ftm.h"
+#include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -34,48 +34,53 @@ int HexDigit(char character)
     return character >= 'A' && character <= 'F' ? character - 'A' + 10 : 0;
 }
 
-}  // namespace
-
 template <size_t size>
-bool PhoneProcedures::SendHci(const uint8_t (&packet)[size])
+bool SendHci(const PhoneProcedure& phone, const uint8_t (&packet)[size])
 {
     constexpr uint8_t length = size;
-    return Step(
+    return phone.Step(
         "QLIB_FTM_BT_HCI_USER_CMD", "(pBuffer = %s, iLength = %c)",
-        [&] { return QLIB_FTM_BT_HCI_USER_CMD(hResourceContext, packet, length); }, ItemText<size>(packet), length);
+        [&] { return QLIB_FTM_BT_HCI_USER_CMD(phone.hResourceContext, packet, length); }, ItemOf<size>(packet), length);
 }
 
-uint8_t PhoneProcedures::SetCWPowerBluetooth(uint8_t iChannel)
+}  // namespace
+
+uint8_t TANDEKOR_SetCWPowerBluetooth(ResourceContext hResourceContext, uint8_t iChannel)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && CallStep("QLIB_FTM_BT_SetCW", QLIB_FTM_BT_SetCW, "(iChannel = %c)", iChannel) && SendHci(hciReset);
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection()
+           && phone.CallStep("QLIB_FTM_BT_SetCW", QLIB_FTM_BT_SetCW, "(iChannel = %c)", iChannel)
+           && SendHci(phone, hciReset);
 }
 
 // The text begins with the address's last byte.
-uint8_t PhoneProcedures::BluetoothTestConnect(char* szAddr)
+uint8_t TANDEKOR_BluetoothTestConnect(ResourceContext hResourceContext, char* szAddr)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint8_t address[addressSize] = {};
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "TANDEKOR_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 6)",
-            [&] { return TANDEKOR_DIAG_NV_READ_F(hResourceContext, addressItem, address, addressSize); }, addressItem,
-            ItemText<addressSize>(address)))
+            [&] { return DIAG_NV_READ_F(hResourceContext, addressItem, address, addressSize); }, addressItem,
+            ItemOf<addressSize>(address)))
         return 0;
     std::snprintf(szAddr, addressTextSize, "%02X%02X%02X%02X%02X%02X", address[5], address[4], address[3], address[2],
                   address[1], address[0]);
-    return Step(
-               "TANDEKOR_FtmBtSetAddr", "(szAddr = %s)",
-               [&] { return TANDEKOR_FtmBtSetAddr(hResourceContext, szAddr); }, ItemText<addressTextSize>(szAddr))
-           && CallStep("QLIB_FTM_BT_Enable_Bluetooth", QLIB_FTM_BT_Enable_Bluetooth, "()") && SendHci(hciScanOff);
+    return phone.Step(
+               "TANDEKOR_FtmBtSetAddr", "(szAddr = %s)", [&] { return FtmBtSetAddr(hResourceContext, szAddr); },
+               ItemOf<addressTextSize>(szAddr))
+           && phone.CallStep("QLIB_FTM_BT_Enable_Bluetooth", QLIB_FTM_BT_Enable_Bluetooth, "()")
+           && SendHci(phone, hciScanOff);
 }
 
-bool PhoneProcedures::FtmBtSetAddr(char* szAddr)
+bool tandekor::FtmBtSetAddr(ResourceContext hResourceContext, char* szAddr)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     if (std::strlen(szAddr) < 2 * addressSize)
     {
-        StepTrace(STEP_FAILURE, "QLIB_FTM_BT_SetAddr(strlen(szAddr) < 12)");
+        phone.StepTrace(STEP_FAILURE, "QLIB_FTM_BT_SetAddr(strlen(szAddr) < 12)");
         return false;
     }
     for (char* character = szAddr; *character != '\0'; ++character)
@@ -83,21 +88,20 @@ bool PhoneProcedures::FtmBtSetAddr(char* szAddr)
     uint8_t address[addressSize] = {};
     for (size_t i = 0; i < addressSize; ++i)
         address[i] = static_cast<uint8_t>(HexDigit(szAddr[10 - 2 * i]) << 4 | HexDigit(szAddr[11 - 2 * i]));
-    return Step(
+    return phone.Step(
         "QLIB_FTM_BT_SetAddr", "(iAddr=%s)", [&] { return QLIB_FTM_BT_SetAddr(hResourceContext, address); },
-        ItemText<textAreaSize>(szAddr));
+        ItemOf<textBufferSize>(szAddr));
 }
 
-uint8_t PhoneProcedures::Bluetooth_HW_ID(void* pModuleVersion, uint16_t* piBtStatus, uint8_t* piBtParam1,
-                                         uint8_t* piBtParam2, uint8_t* piBtParam3)
+uint8_t TANDEKOR_Bluetooth_HW_ID(ResourceContext hResourceContext, void* pModuleVersion, uint16_t* piBtStatus,
+                                 uint8_t* piBtParam1, uint8_t* piBtParam2, uint8_t* piBtParam3)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && Step("QLIB_BT_GetModuleVersion", "()",
-                   [&] { return QLIB_BT_GetModuleVersion(hResourceContext, pModuleVersion); })
-           && Step(
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection()
+           && phone.Step("QLIB_BT_GetModuleVersion", "()",
+                         [&] { return QLIB_BT_GetModuleVersion(hResourceContext, pModuleVersion); })
+           && phone.Step(
                "TANDEKOR_FTM_GET_BT_PARAM", "()",
                [&]
                { return TANDEKOR_FTM_GET_BT_PARAM(hResourceContext, piBtStatus, piBtParam1, piBtParam2, piBtParam3); });
 }
-
-}  // namespace tandekor

@@ -2,13 +2,12 @@
 // outside.
 #include "phone/phone_models.h"
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -43,68 +42,71 @@ constexpr uint32_t supplyMask = 0x00080000;
 bool HasModeBit(uint32_t model) { return (model >= 12 && model <= 15) || (model >= 32 && model <= 36) || model == 40; }
 bool HasSupplyBitOnly(uint32_t model) { return model >= 22 && model <= 25; }
 
-}  // namespace
-
 // --- charging
-
-bool PhoneProcedures::SetChargerSwitch(uint32_t iChargerSwitchType, uint8_t iChargerSwitchCommand)
+bool SetChargerSwitch(const PhoneProcedure& phone, uint32_t iChargerSwitchType, uint8_t iChargerSwitchCommand)
 {
-    return CallStep("QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE", QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE,
-                    "(iChargerSwitchType = %i, iChargerSwitchCommand = %c)", iChargerSwitchType, iChargerSwitchCommand);
+    return phone.CallStep("QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE", QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE,
+                          "(iChargerSwitchType = %i, iChargerSwitchCommand = %c)", iChargerSwitchType,
+                          iChargerSwitchCommand);
 }
 
+}  // namespace
+
 // The deepest low power mode is reported like a failure, and the procedure goes on.
-uint8_t PhoneProcedures::Charging_Test(uint8_t iLowPowerMode, uint8_t iChargerSwitchCommand7, uint8_t eChgTransistor,
-                                       uint8_t bState, uint8_t iChargerSwitchCommand3, uint32_t iVoltage,
-                                       uint32_t iCurrent, uint8_t eChgTransistorRead, uint8_t* pbState)
+uint8_t TANDEKOR_Charging_Test(ResourceContext hResourceContext, uint8_t iLowPowerMode, uint8_t iChargerSwitchCommand7,
+                               uint8_t eChgTransistor, uint8_t bState, uint8_t iChargerSwitchCommand3,
+                               uint32_t iVoltage, uint32_t iCurrent, uint8_t eChgTransistorRead, uint8_t* pbState)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !CallStep("TANDEKOR_FTM_SET_LOW_POWER_MODE", TANDEKOR_FTM_SET_LOW_POWER_MODE, "(iLowPowerMode = %c)",
-                     iLowPowerMode))
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection()
+        || !phone.CallStep("TANDEKOR_FTM_SET_LOW_POWER_MODE", TANDEKOR_FTM_SET_LOW_POWER_MODE, "(iLowPowerMode = %c)",
+                           iLowPowerMode))
         return 0;
     if (iLowPowerMode == deepestLowPowerMode)
     {
-        StepTrace(STEP_FAILURE, "[!!! LPM3 -> PHONE HAS TO BE RESET NOW !!!]");
-        StepTrace(STEP_FAILURE, "[!!! NO MORE COMMUNICATION POSSIBLE !!!]");
+        phone.StepTrace(STEP_FAILURE, "[!!! LPM3 -> PHONE HAS TO BE RESET NOW !!!]");
+        phone.StepTrace(STEP_FAILURE, "[!!! NO MORE COMMUNICATION POSSIBLE !!!]");
     }
-    return SetChargerSwitch(7, iChargerSwitchCommand7)
-           && CallStep("TANDEKOR_SpecialSetChargeFetState", TANDEKOR_SpecialSetChargeFetState,
-                       "(eChgTransistor = %c, bState = %c)", eChgTransistor, bState)
-           && SetChargerSwitch(3, iChargerSwitchCommand3)
-           && CallStep("TANDEKOR_SpecialSetPmicChargeLimits", TANDEKOR_SpecialSetPmicChargeLimits,
-                       "(iVoltage = %d, iCurrent = %d)", iVoltage, iCurrent)
-           && Step(
+    return SetChargerSwitch(phone, 7, iChargerSwitchCommand7)
+           && phone.CallStep("TANDEKOR_SpecialSetChargeFetState", SpecialSetChargeFetState,
+                             "(eChgTransistor = %c, bState = %c)", eChgTransistor, bState)
+           && SetChargerSwitch(phone, 3, iChargerSwitchCommand3)
+           && phone.CallStep("TANDEKOR_SpecialSetPmicChargeLimits", SpecialSetPmicChargeLimits,
+                             "(iVoltage = %d, iCurrent = %d)", iVoltage, iCurrent)
+           && phone.Step(
                "TANDEKOR_SpecialGetChargeFetState", "(eChgTransistor = %c, bState = %c)",
-               [&] { return TANDEKOR_SpecialGetChargeFetState(hResourceContext, eChgTransistorRead, pbState); },
+               [&] { return SpecialGetChargeFetState(hResourceContext, eChgTransistorRead, pbState); },
                eChgTransistorRead, *pbState);
 }
 
-bool PhoneProcedures::SpecialSetChargeFetState(uint8_t eChgTransistor, uint8_t bState)
+bool tandekor::SpecialSetChargeFetState(ResourceContext hResourceContext, uint8_t eChgTransistor, uint8_t bState)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && eChgTransistor <= 1
-           && SetChargerSwitch(eChgTransistor, bState);
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection() && eChgTransistor <= 1 && SetChargerSwitch(phone, eChgTransistor, bState);
 }
 
-bool PhoneProcedures::SpecialSetPmicChargeLimits(uint32_t iVoltage, uint32_t iCurrent)
+bool tandekor::SpecialSetPmicChargeLimits(ResourceContext hResourceContext, uint32_t iVoltage, uint32_t iCurrent)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     if (!voltageLimits.Holds(iVoltage) || !currentLimits.Holds(iCurrent))
     {
-        StepTrace(STEP_FAILURE, "Parameter out of range.");
+        phone.StepTrace(STEP_FAILURE, "Parameter out of range.");
         return false;
     }
-    return CallStep("QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS",
-                    QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS,
-                    "(iChargerMaxCurrent = %c, iChargerMaxVoltage = %c)", currentLimits.IndexOf(iCurrent),
-                    voltageLimits.IndexOf(iVoltage));
+    return phone.CallStep("QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS",
+                          QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS,
+                          "(iChargerMaxCurrent = %c, iChargerMaxVoltage = %c)", currentLimits.IndexOf(iCurrent),
+                          voltageLimits.IndexOf(iVoltage));
 }
 
-bool PhoneProcedures::SpecialGetChargeFetState(uint8_t eChgTransistor, uint8_t* pbState)
+bool tandekor::SpecialGetChargeFetState(ResourceContext hResourceContext, uint8_t eChgTransistor, uint8_t* pbState)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint8_t status = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0 || eChgTransistor != readableTransistor
-        || !Step(
+    if (!phone.CheckConnection() || eChgTransistor != readableTransistor
+        || !phone.Step(
             "QLIB_FTM_PMIC_INT_GET_RT_STATUS", "(iInterruptStatusId = 11, piInterruptStatus = %c)",
             [&] { return QLIB_FTM_PMIC_INT_GET_RT_STATUS(hResourceContext, transistorStatusId, &status); }, status))
         return false;
@@ -114,92 +116,99 @@ bool PhoneProcedures::SpecialGetChargeFetState(uint8_t eChgTransistor, uint8_t* 
 
 // --- supply
 
-bool PhoneProcedures::AskModelQuietly(uint32_t* piPhoneModel)
+namespace
+{
+
+bool AskModelQuietly(const PhoneProcedure& phone, uint32_t* piPhoneModel)
 {
     uint32_t verNumber = 0;
     uint32_t msmModel = 0;
     *piPhoneModel = 0;
-    return Step("TANDEKOR_Phone_Model", "()",
-                [&] { return TANDEKOR_Phone_Model(hResourceContext, &verNumber, &msmModel, piPhoneModel); });
+    return phone.Step("TANDEKOR_Phone_Model", "()",
+                      [&]
+                      { return TANDEKOR_Phone_Model(phone.hResourceContext, &verNumber, &msmModel, piPhoneModel); });
 }
 
-bool PhoneProcedures::ConfigureCameraSwitch(uint8_t iCameraNum)
+bool ConfigureCameraSwitch(const PhoneProcedure& phone, uint8_t iCameraNum)
 {
-    return Step(
+    return phone.Step(
         "TANDEKOR_FTM_CONFIGURE_SWITCH", "(iSwitchID = 1, iSwitchState = %d)",
-        [&] { return TANDEKOR_FTM_CONFIGURE_SWITCH(hResourceContext, 1, iCameraNum); }, iCameraNum);
+        [&] { return TANDEKOR_FTM_CONFIGURE_SWITCH(phone.hResourceContext, 1, iCameraNum); }, iCameraNum);
 }
 
 // The address has one digit more in the success line.
-bool PhoneProcedures::SetBiasBit()
+bool SetBiasBit(const PhoneProcedure& phone)
 {
     constexpr uint8_t on = 1;
-    StepTrace(STEP_START, "\tTANDEKOR_SetBitState_8_Reg() start");
-    const bool done = TANDEKOR_SetBitState_8_Reg(hResourceContext, biasRegister, biasMask, on) != 0;
+    phone.StepTrace(STEP_START, "\tTANDEKOR_SetBitState_8_Reg() start");
+    const bool done = SetBitState_8_Reg(phone.hResourceContext, biasRegister, biasMask, on) != 0;
     if (done)
-        StepTrace(STEP_SUCCESS, "TANDEKOR_SetBitState_8_Reg(iAddress = 0x%x0 + 0, iMask = 0x10, bOnOff = %d)",
-                  biasRegister, on);
+        phone.StepTrace(STEP_SUCCESS, "TANDEKOR_SetBitState_8_Reg(iAddress = 0x%x0 + 0, iMask = 0x10, bOnOff = %d)",
+                        biasRegister, on);
     else
-        StepTrace(STEP_FAILURE, "TANDEKOR_SetBitState_8_Reg(iAddress = 0x%x + 0, iMask = 0x10, bOnOff = %d)",
-                  biasRegister, on);
+        phone.StepTrace(STEP_FAILURE, "TANDEKOR_SetBitState_8_Reg(iAddress = 0x%x + 0, iMask = 0x10, bOnOff = %d)",
+                        biasRegister, on);
     return done;
 }
 
-bool PhoneProcedures::SetModeBit(uint8_t bOnOff)
+bool SetModeBit(const PhoneProcedure& phone, uint8_t bOnOff)
 {
-    return Step(
+    return phone.Step(
         "TANDEKOR_SetBitState_32_Reg", "(iAddress = 0x%x, iMask = 0x20000000, bOnOff = %d)",
-        [&] { return TANDEKOR_SetBitState_32_Reg(hResourceContext, modeRegister, modeMask, bOnOff); }, modeRegister,
+        [&] { return SetBitState_32_Reg(phone.hResourceContext, modeRegister, modeMask, bOnOff); }, modeRegister,
         bOnOff);
 }
 
-bool PhoneProcedures::SetSupplyBit(uint8_t bOnOff)
+bool SetSupplyBit(const PhoneProcedure& phone, uint8_t bOnOff)
 {
-    return Step(
+    return phone.Step(
         "TANDEKOR_SetBitState_32_Reg", "(iAddress = 0x%x, iMask = 0x00080000, bOnOff = %d)",
-        [&] { return TANDEKOR_SetBitState_32_Reg(hResourceContext, supplyRegister, supplyMask, bOnOff); },
-        supplyRegister, bOnOff);
+        [&] { return SetBitState_32_Reg(phone.hResourceContext, supplyRegister, supplyMask, bOnOff); }, supplyRegister,
+        bOnOff);
 }
 
-bool PhoneProcedures::SetBacklight(uint8_t iLevel)
+bool SetBacklight(const PhoneProcedure& phone, uint8_t iLevel)
 {
-    return CallStep("TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL", TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL, "(iLevel = %d)",
-                    iLevel);
+    return phone.CallStep("TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL", TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL, "(iLevel = %d)",
+                          iLevel);
 }
 
-uint8_t PhoneProcedures::SupplyVoltageTest(uint8_t iCameraNum, uint8_t iLevel, uint8_t iSupplyMode, uint8_t bOnOff)
+}  // namespace
+
+uint8_t TANDEKOR_SupplyVoltageTest(ResourceContext hResourceContext, uint8_t iCameraNum, uint8_t iLevel,
+                                   uint8_t iSupplyMode, uint8_t bOnOff)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return 0;
     if (iCameraNum > 1)
     {
-        StepTrace(STEP_FAILURE, "Wrong camera number");
+        phone.StepTrace(STEP_FAILURE, "Wrong camera number");
         return 0;
     }
     uint32_t model = 0;
-    if (!AskModelQuietly(&model))
+    if (!AskModelQuietly(phone, &model))
         return 0;
     if (HasModeBit(model))
     {
         const uint8_t mode = iSupplyMode == 1 || iSupplyMode == 2 ? 1 : 0;
-        return ConfigureCameraSwitch(iCameraNum) && SetBiasBit() && SetModeBit(mode) && SetBacklight(iLevel)
-               && SetSupplyBit(bOnOff);
+        return ConfigureCameraSwitch(phone, iCameraNum) && SetBiasBit(phone) && SetModeBit(phone, mode)
+               && SetBacklight(phone, iLevel) && SetSupplyBit(phone, bOnOff);
     }
     if (HasSupplyBitOnly(model))
-        return ConfigureCameraSwitch(iCameraNum) && SetBacklight(iLevel) && SetSupplyBit(bOnOff);
+        return ConfigureCameraSwitch(phone, iCameraNum) && SetBacklight(phone, iLevel) && SetSupplyBit(phone, bOnOff);
     // A refused switch is made up for by the camera's own.
     return IsKolt(model)
-           && (ConfigureCameraSwitch(iCameraNum)
-               || CallStep("TANDEKOR_FTM_KOLT_CAMERA_SWITCH", TANDEKOR_FTM_KOLT_CAMERA_SWITCH, "(iCameraNum = %i)",
-                           iCameraNum))
-           && SetBacklight(iLevel);
+           && (ConfigureCameraSwitch(phone, iCameraNum)
+               || phone.CallStep("TANDEKOR_FTM_KOLT_CAMERA_SWITCH", TANDEKOR_FTM_KOLT_CAMERA_SWITCH,
+                                 "(iCameraNum = %i)", iCameraNum))
+           && SetBacklight(phone, iLevel);
 }
 
-uint8_t PhoneProcedures::SpecialSwitchAccSupplyVoltage(uint8_t bOnOff)
+uint8_t TANDEKOR_SpecialSwitchAccSupplyVoltage(ResourceContext hResourceContext, uint8_t bOnOff)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint32_t model = 0;
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && AskModelQuietly(&model)
-           && (HasModeBit(model) || HasSupplyBitOnly(model)) && SetSupplyBit(bOnOff);
+    return phone.CheckConnection() && AskModelQuietly(phone, &model) && (HasModeBit(model) || HasSupplyBitOnly(model))
+           && SetSupplyBit(phone, bOnOff);
 }
-
-}  // namespace tandekor

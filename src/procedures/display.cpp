@@ -2,13 +2,12 @@
 #include "phone/phone_models.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -27,13 +26,14 @@ uint16_t ResponseSizeOf(uint32_t model)
 
 }  // namespace
 
-uint8_t PhoneProcedures::SpecialSwitchDisplay(uint8_t uiDsplNum)
+uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t uiDsplNum)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint32_t verNumber = 0;
     uint32_t msmModel = 0;
     uint32_t phoneModel = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "TANDEKOR_Phone_Model", "(piVerNumber = %i, piMobModel = %i)",
             [&] { return TANDEKOR_Phone_Model(hResourceContext, &verNumber, &msmModel, &phoneModel); }, verNumber,
             msmModel))
@@ -44,13 +44,13 @@ uint8_t PhoneProcedures::SpecialSwitchDisplay(uint8_t uiDsplNum)
     {
         if (uiDsplNum == 0)
             return 1;
-        StepTrace(STEP_FAILURE, "ERROR: Mobile not supported");
+        phone.StepTrace(STEP_FAILURE, "ERROR: Mobile not supported");
         return 0;
     }
     uint8_t request[] = {0x4B, 0x0B, 0x00, 0x80, 0xC8, 0x00, 0x01, 0x00, 0x0C, 0x00, uiDsplNum};
     uint8_t response[4096] = {};
     constexpr int requestSize = sizeof request;
-    return Step(
+    return phone.Step(
         "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %u, piResponseSize = %i, iTimeout = %i)",
         [&] {
             return QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response,
@@ -59,24 +59,26 @@ uint8_t PhoneProcedures::SpecialSwitchDisplay(uint8_t uiDsplNum)
         requestSize, AddressOf{request}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
 }
 
-uint8_t PhoneProcedures::FTM_DrawContrastPattern(char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && CallStep("TANDEKOR_SpecialSwitchDisplay", TANDEKOR_SpecialSwitchDisplay, "(uiDsplNum = %i)", uiDsplNum)
-           && Step(
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection()
+           && phone.CallStep("TANDEKOR_SpecialSwitchDisplay", TANDEKOR_SpecialSwitchDisplay, "(uiDsplNum = %i)",
+                             uiDsplNum)
+           && phone.Step(
                "TANDEKOR_FTM_DISPLAY_IMAGE", "(sFileName = %s)",
                [&] { return TANDEKOR_FTM_DISPLAY_IMAGE(hResourceContext, sFileName); },
-               ItemText<fileNameSize>(sFileName));
+               ItemOf<fileNameSize>(sFileName));
 }
 
-uint8_t PhoneProcedures::FTM_DrawContrastPattern24Bit(char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && CallStep("TANDEKOR_SpecialSwitchDisplay", TANDEKOR_SpecialSwitchDisplay, "(uiDsplNum = %i)", uiDsplNum)
-           && Step(
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection()
+           && phone.CallStep("TANDEKOR_SpecialSwitchDisplay", TANDEKOR_SpecialSwitchDisplay, "(uiDsplNum = %i)",
+                             uiDsplNum)
+           && phone.Step(
                "TANDEKOR_FTM_DISPLAY_IMAGE_24BIT", "(sFileName = %s)",
                [&] { return TANDEKOR_FTM_DISPLAY_IMAGE_24BIT(hResourceContext, sFileName); },
-               ItemText<fileNameSize>(sFileName));
+               ItemOf<fileNameSize>(sFileName));
 }
-
-}  // namespace tandekor

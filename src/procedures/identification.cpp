@@ -3,13 +3,12 @@
 #include <cstring>
 
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -64,85 +63,89 @@ uint32_t PhoneModelOf(uint32_t version, uint32_t msmModel)
     return 0;
 }
 
-}  // namespace
-
-bool PhoneProcedures::ReadHardwareVersion(uint32_t* value)
+bool ReadHardwareVersion(const PhoneProcedure& phone, uint32_t* value)
 {
     uint32_t mobModel = 0;
     char buildId[512] = {};
     char buildModel[512] = {};
     *value = 0;
-    StepTrace(STEP_START, "QLIB_DIAG_EXT_BUILD_ID_F() start");
-    if (StepWithoutStart("QLIB_DIAG_EXT_BUILD_ID_F", "()",
-                         [&]
-                         { return QLIB_DIAG_EXT_BUILD_ID_F(hResourceContext, value, &mobModel, buildId, buildModel); })
+    phone.StepTrace(STEP_START, "QLIB_DIAG_EXT_BUILD_ID_F() start");
+    if (phone.StepWithoutStart(
+            "QLIB_DIAG_EXT_BUILD_ID_F", "()",
+            [&] { return QLIB_DIAG_EXT_BUILD_ID_F(phone.hResourceContext, value, &mobModel, buildId, buildModel); })
         && *value != 0)
         return true;
 
     uint32_t word = 0;
-    StepTrace(STEP_START, "TANDEKOR_FTM_GET_HARDWARE_VERSION() start");
-    if (!StepWithoutStart("TANDEKOR_FTM_GET_HARDWARE_VERSION", "()",
-                          [&] { return TANDEKOR_FTM_GET_HARDWARE_VERSION(hResourceContext, &word); }))
+    phone.StepTrace(STEP_START, "TANDEKOR_FTM_GET_HARDWARE_VERSION() start");
+    if (!phone.StepWithoutStart("TANDEKOR_FTM_GET_HARDWARE_VERSION", "()",
+                                [&] { return TANDEKOR_FTM_GET_HARDWARE_VERSION(phone.hResourceContext, &word); }))
         return false;
     *value = word >> 12 & 0xFFFF;
     return true;
 }
 
-uint8_t PhoneProcedures::Phone_Model(uint32_t* piVerNumber, uint32_t* piMSMModel, uint32_t* piPhoneModel)
+}  // namespace
+
+uint8_t TANDEKOR_Phone_Model(ResourceContext hResourceContext, uint32_t* piVerNumber, uint32_t* piMSMModel,
+                             uint32_t* piPhoneModel)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint32_t hardwareVersion = 0;
-    if (!ReadHardwareVersion(&hardwareVersion))
+    if (!ReadHardwareVersion(phone, &hardwareVersion))
         return 0;
     *piMSMModel = MsmModelOf(hardwareVersion);
 
     uint16_t hwId = 0;
-    if (!Step("TANDEKOR_FTM_GET_HW_ID", "()", [&] { return TANDEKOR_FTM_GET_HW_ID(hResourceContext, &hwId); }))
+    if (!phone.Step("TANDEKOR_FTM_GET_HW_ID", "()", [&] { return TANDEKOR_FTM_GET_HW_ID(hResourceContext, &hwId); }))
         return 0;
     *piVerNumber = hwId;
 
-    return Step(
+    return phone.Step(
         "TANDEKOR_GetPhoneModel", "(ver_number = %i, msm_model = %i)",
         [&] { return TANDEKOR_GetPhoneModel(hResourceContext, *piVerNumber, *piMSMModel, piPhoneModel); }, *piVerNumber,
         *piMSMModel);
 }
 
-uint8_t PhoneProcedures::GetPhoneModel(uint32_t iVerNumber, uint32_t iMSMModel, uint32_t* piPhoneModel)
+uint8_t TANDEKOR_GetPhoneModel(ResourceContext hResourceContext, uint32_t iVerNumber, uint32_t iMSMModel,
+                               uint32_t* piPhoneModel)
 {
+    if (!PhoneProcedure(hResourceContext).IsKnown())
+        return 0;
     *piPhoneModel = PhoneModelOf(iVerNumber, iMSMModel);
     return 1;
 }
 
-uint8_t PhoneProcedures::CheckSWBuild(char* sCompileDate, char* sCompileTime, char* sReleaseDate, char* sReleaseTime,
-                                      char* sVersionDir, void* pVernoField6, void* pVernoField7, void* pVernoField8,
-                                      void* pVernoField9, void* pVernoField10, void* pVernoField11, void* pVernoField12,
-                                      uint32_t* iMSMHardwareVersion, uint32_t* iBuildMobModel, char* sBuildId,
-                                      char* sBuildModel)
+uint8_t TANDEKOR_CheckSWBuild(ResourceContext hResourceContext, char* sCompileDate, char* sCompileTime,
+                              char* sReleaseDate, char* sReleaseTime, char* sVersionDir, void* pVernoField6,
+                              void* pVernoField7, void* pVernoField8, void* pVernoField9, void* pVernoField10,
+                              void* pVernoField11, void* pVernoField12, uint32_t* iMSMHardwareVersion,
+                              uint32_t* iBuildMobModel, char* sBuildId, char* sBuildModel)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr size_t textSize = 32;
     constexpr size_t dateLength = 11;
     constexpr size_t timeLength = 8;
 
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    if (!phone.CheckConnection())
         return 0;
     for (char* text : {sCompileDate, sCompileTime, sReleaseDate, sReleaseTime, sVersionDir})
         std::memset(text, 0, textSize);
-    if (!Step("QLIB_DIAG_VERNO_F", "()",
-              [&]
-              {
-                  return QLIB_DIAG_VERNO_F(hResourceContext, sCompileDate, sCompileTime, sReleaseDate, sReleaseTime,
-                                           sVersionDir, pVernoField6, pVernoField7, pVernoField8, pVernoField9,
-                                           pVernoField10, pVernoField11, pVernoField12);
-              }))
+    if (!phone.Step("QLIB_DIAG_VERNO_F", "()",
+                    [&]
+                    {
+                        return QLIB_DIAG_VERNO_F(hResourceContext, sCompileDate, sCompileTime, sReleaseDate,
+                                                 sReleaseTime, sVersionDir, pVernoField6, pVernoField7, pVernoField8,
+                                                 pVernoField9, pVernoField10, pVernoField11, pVernoField12);
+                    }))
         return 0;
     for (char* date : {sCompileDate, sReleaseDate})
         date[dateLength] = '\0';
     for (char* text : {sCompileTime, sReleaseTime, sVersionDir})
         text[timeLength] = '\0';
-    return Step("QLIB_DIAG_EXT_BUILD_ID_F", "()",
-                [&] {
-                    return QLIB_DIAG_EXT_BUILD_ID_F(hResourceContext, iMSMHardwareVersion, iBuildMobModel, sBuildId,
-                                                    sBuildModel);
-                });
+    return phone.Step("QLIB_DIAG_EXT_BUILD_ID_F", "()",
+                      [&] {
+                          return QLIB_DIAG_EXT_BUILD_ID_F(hResourceContext, iMSMHardwareVersion, iBuildMobModel,
+                                                          sBuildId, sBuildModel);
+                      });
 }
-
-}  // namespace tandekor

@@ -5,12 +5,12 @@
 
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/ftm.h"
+#include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -48,20 +48,21 @@ bool SameText(const uint8_t* expected, const uint8_t* actual, size_t most)
 
 // --- IMEI
 
-uint8_t PhoneProcedures::NV_READ_IMEI(char* sImei)
+uint8_t TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint8_t item[imeiSize] = {};
     HostWord status;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "QLIB_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 9)",
             [&] { return QLIB_DIAG_NV_READ_F(hResourceContext, imeiItem, item, imeiSize, status.Out()); }, imeiItem,
-            ItemText<imeiSize>(item)))
+            ItemOf<imeiSize>(item)))
         return 0;
     if (status.Value() != 0)
     {
         std::fill_n(sImei, imeiTextSize, '\0');
-        StepTrace(STEP_FAILURE, "QLIB_DIAG_NV_READ_F(iNvStatus = %i)", status.Value());
+        phone.StepTrace(STEP_FAILURE, "QLIB_DIAG_NV_READ_F(iNvStatus = %i)", status.Value());
         return 0;
     }
     char* digit = sImei;
@@ -76,23 +77,24 @@ uint8_t PhoneProcedures::NV_READ_IMEI(char* sImei)
 }
 
 // Of each character the low four bits count, so numbers do as well as digits.
-uint8_t PhoneProcedures::NV_WRITE_IMEI(const char* sImei)
+uint8_t TANDEKOR_NV_WRITE_IMEI(ResourceContext hResourceContext, const char* sImei)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return 0;
     uint8_t item[imeiSize] = {imeiLengthByte, static_cast<uint8_t>(Nibbles(sImei[0], 0) | imeiFirstLowNibble)};
     for (size_t i = 2; i < imeiSize; ++i)
         item[i] = Nibbles(sImei[2 * i - 2], sImei[2 * i - 3] & 0x0F);
     uint8_t readBack[imeiSize] = {};
-    if (!WriteItem(imeiItem, item, imeiSize)
-        || !Step(
+    if (!phone.WriteItem(imeiItem, item, imeiSize)
+        || !phone.Step(
             "TANDEKOR_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 9)",
-            [&] { return TANDEKOR_DIAG_NV_READ_F(hResourceContext, imeiItem, readBack, imeiSize); }, imeiItem,
-            ItemText<imeiSize>(readBack)))
+            [&] { return DIAG_NV_READ_F(hResourceContext, imeiItem, readBack, imeiSize); }, imeiItem,
+            ItemOf<imeiSize>(readBack)))
         return 0;
     if (!std::equal(std::begin(item), std::end(item), readBack))
     {
-        StepTrace(STEP_FAILURE, "cImei[i] != cImeiRead[i]");
+        phone.StepTrace(STEP_FAILURE, "cImei[i] != cImeiRead[i]");
         return 0;
     }
     return 1;
@@ -100,36 +102,43 @@ uint8_t PhoneProcedures::NV_WRITE_IMEI(const char* sImei)
 
 // --- freezing
 
-bool PhoneProcedures::Remark(bool passed, const char* passedText, const char* failedText)
+namespace
 {
-    StepTrace(STEP_START, "%s", passed ? passedText : failedText);
+
+bool Remark(const PhoneProcedure& phone, bool passed, const char* passedText, const char* failedText)
+{
+    phone.StepTrace(STEP_START, "%s", passed ? passedText : failedText);
     return passed;
 }
 
-bool PhoneProcedures::ReadIdentity(uint16_t iItemID, uint8_t* item, size_t size, const char* what)
+bool ReadIdentity(const PhoneProcedure& phone, uint16_t iItemID, uint8_t* item, size_t size, const char* what)
 {
     std::fill_n(item, size, uint8_t{0});
-    const bool passed = TANDEKOR_DIAG_NV_READ_F(hResourceContext, iItemID, item, static_cast<int32_t>(size)) != 0;
-    StepTrace(STEP_START, "\tTANDEKOR_DIAG_NV_READ_F() - read %s %s\n", what,
-              passed ? "Completed successfully" : "Failure");
+    const bool passed = DIAG_NV_READ_F(phone.hResourceContext, iItemID, item, static_cast<int32_t>(size)) != 0;
+    phone.StepTrace(STEP_START, "\tTANDEKOR_DIAG_NV_READ_F() - read %s %s\n", what,
+                    passed ? "Completed successfully" : "Failure");
     return passed;
 }
+
+}  // namespace
 
 // Nothing is written to the phone before all three identity values were found equal, and the last command goes out only
 // after the key was read back and found equal. Nothing of the key goes to the log. The three key commands share their
 // values, so the status that a command leaves alone is that of the one before.
-uint8_t PhoneProcedures::DIAG_FREEZE_PHONE(const uint8_t* pExpectedImei, const uint8_t* pExpectedBtAddress,
-                                           const uint8_t* pExpectedSerial, const uint8_t* pPublicKey)
+uint8_t TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8_t* pExpectedImei,
+                                   const uint8_t* pExpectedBtAddress, const uint8_t* pExpectedSerial,
+                                   const uint8_t* pPublicKey)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint8_t item[longestIdentitySize] = {};
     const auto same = [&](const uint8_t* expected, size_t size) { return SameText(expected, item, size); };
-    StepTrace(STEP_START, "\nTANDEKOR_DIAG_FREEZE_PHONE() - Started\n");
-    if (!ReadIdentity(imeiItem, item, imeiSize, "IMEI")
-        || !Remark(same(pExpectedImei, imeiSize), "\tIMEI Correct\n", "\tIMEI Mismatch\n")
-        || !ReadIdentity(btAddressItem, item, btAddressSize, "BT Address")
-        || !Remark(same(pExpectedBtAddress, btAddressSize), "\tBT Address Correct\n", "\tBT Address Mismatch\n")
-        || !ReadIdentity(serialNumberItem, item, serialNumberSize, "Device Serial Number")
-        || !Remark(same(pExpectedSerial, serialNumberSize), "\tDevice Serial Number Correct\n",
+    phone.StepTrace(STEP_START, "\nTANDEKOR_DIAG_FREEZE_PHONE() - Started\n");
+    if (!ReadIdentity(phone, imeiItem, item, imeiSize, "IMEI")
+        || !Remark(phone, same(pExpectedImei, imeiSize), "\tIMEI Correct\n", "\tIMEI Mismatch\n")
+        || !ReadIdentity(phone, btAddressItem, item, btAddressSize, "BT Address")
+        || !Remark(phone, same(pExpectedBtAddress, btAddressSize), "\tBT Address Correct\n", "\tBT Address Mismatch\n")
+        || !ReadIdentity(phone, serialNumberItem, item, serialNumberSize, "Device Serial Number")
+        || !Remark(phone, same(pExpectedSerial, serialNumberSize), "\tDevice Serial Number Correct\n",
                    "\tDevice Serial Number Mismatch\n"))
         return 0;
 
@@ -141,7 +150,7 @@ uint8_t PhoneProcedures::DIAG_FREEZE_PHONE(const uint8_t* pExpectedImei, const u
     const auto report = [&](uint8_t result, const char* passedText, const char* failedText)
     {
         const bool passed = result != 0 && status == 0;
-        StepTrace(STEP_START, "%s: %d\n", passed ? passedText : failedText, status);
+        phone.StepTrace(STEP_START, "%s: %d\n", passed ? passedText : failedText, status);
         return passed;
     };
     if (!report(QLIB_GSDIDIAG_ROOT_KEY_WRITE_CMD(hResourceContext, 0, 0, block, publicKeySize, pPublicKey, &gsdiValue,
@@ -150,43 +159,46 @@ uint8_t PhoneProcedures::DIAG_FREEZE_PHONE(const uint8_t* pExpectedImei, const u
         || !report(
             QLIB_GSDIDIAG_ROOT_KEY_READ_CMD(hResourceContext, 0, 0, block, &keyLength, keyRead, &gsdiValue, &status),
             "\tRoot Key Read PASS, status", "\tRoot Key Read FAILED, status")
-        || !Remark(SameText(pPublicKey, keyRead, publicKeySize), "\tPublic Key Correct\n", "\tPublic Key Mismatch\n"))
+        || !Remark(phone, SameText(pPublicKey, keyRead, publicKeySize), "\tPublic Key Correct\n",
+                   "\tPublic Key Mismatch\n"))
         return 0;
     const uint8_t result = QLIB_GSDIDIAG_SECURE_DEVICE_INFO_CMD(hResourceContext, 0, 0, block, &gsdiValue, &status);
     if (!report(result, "\tSecure Device Info PASS, status", "\t\tSecure Device Info FAILED, status"))
         return 0;
-    StepTrace(STEP_START, "\nTANDEKOR_DIAG_FREEZE_PHONE() - Finished, Result = %d\n", result);
+    phone.StepTrace(STEP_START, "\nTANDEKOR_DIAG_FREEZE_PHONE() - Finished, Result = %d\n", result);
     return result;
 }
 
 // --- storage
 
-uint8_t PhoneProcedures::FlashTest(uint32_t* piFlashId)
+uint8_t TANDEKOR_FlashTest(ResourceContext hResourceContext, uint32_t* piFlashId)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint32_t values[7] = {};
     uint8_t byte = 0;
     char name[100] = {};
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step("QLIB_EFS2_DIAG_DEV_INFO", "()",
-                 [&]
-                 {
-                     return QLIB_EFS2_DIAG_DEV_INFO(hResourceContext, &values[0], &values[1], &values[2], &values[3],
-                                                    &values[4], &values[5], &values[6], &byte, name);
-                 }))
+    if (!phone.CheckConnection()
+        || !phone.Step("QLIB_EFS2_DIAG_DEV_INFO", "()",
+                       [&]
+                       {
+                           return QLIB_EFS2_DIAG_DEV_INFO(hResourceContext, &values[0], &values[1], &values[2],
+                                                          &values[3], &values[4], &values[5], &values[6], &byte, name);
+                       }))
         return 0;
     *piFlashId = (values[5] << 8) + values[6];
     return 1;
 }
 
-uint8_t PhoneProcedures::SpecialMmcTest()
+uint8_t TANDEKOR_SpecialMmcTest(ResourceContext hResourceContext)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr char fileName[] = "\\Test.bin";
     constexpr uint16_t dataSize = 16;
     constexpr uint8_t readAccess = 0;
     constexpr uint8_t writeAccess = 1;
 
-    StepTrace(STEP_START, "\tTANDEKOR_SpecialMmcTest - start");
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    phone.StepTrace(STEP_START, "\tTANDEKOR_SpecialMmcTest - start");
+    if (!phone.CheckConnection())
         return 0;
     uint8_t written[dataSize];
     uint8_t readBack[dataSize] = {};
@@ -199,12 +211,10 @@ uint8_t PhoneProcedures::SpecialMmcTest()
     {
         if (written[i] != readBack[i])
         {
-            StepTrace(STEP_START, "\tcOutData[%i] != cInData[%i]", i, i);
+            phone.StepTrace(STEP_START, "\tcOutData[%i] != cInData[%i]", i, i);
             return 0;
         }
     }
-    StepTrace(STEP_START, "\tTANDEKOR_SpecialMmcTest - finish");
+    phone.StepTrace(STEP_START, "\tTANDEKOR_SpecialMmcTest - finish");
     return 1;
 }
-
-}  // namespace tandekor

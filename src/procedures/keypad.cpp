@@ -2,11 +2,11 @@
 #include <span>
 
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
+#include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -89,23 +89,23 @@ constexpr char keyUpText[] = "AEEKey_RemovePressed: ";
 constexpr char keyDownText[] = "AEEKey_AddPressed: ";
 constexpr uint32_t rtMask = 8;
 
-}  // namespace
-
-bool PhoneProcedures::AddMapEntry(uint16_t iHW_ID, uint8_t iKeyPressSW_ID)
+bool AddMapEntry(const PhoneProcedure& phone, uint16_t iHW_ID, uint8_t iKeyPressSW_ID)
 {
-    return CallStep("QLIB_DIAG_KeyPress_AddMapEntry", QLIB_DIAG_KeyPress_AddMapEntry,
-                    "(iHW_ID = %d, iKeyPressSW_ID = %c)", iHW_ID, iKeyPressSW_ID);
+    return phone.CallStep("QLIB_DIAG_KeyPress_AddMapEntry", QLIB_DIAG_KeyPress_AddMapEntry,
+                          "(iHW_ID = %d, iKeyPressSW_ID = %c)", iHW_ID, iKeyPressSW_ID);
 }
 
+}  // namespace
+
 // The host library's map is cleared in front of everything else. A row that fails leaves the rows before it there.
-uint8_t PhoneProcedures::SpecialSetKeypadMapping(uint8_t iMappingID)
+uint8_t TANDEKOR_SpecialSetKeypadMapping(ResourceContext hResourceContext, uint8_t iMappingID)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !CallStep("QLIB_DIAG_KeyPress_ClearMap", QLIB_DIAG_KeyPress_ClearMap, "()"))
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection() || !phone.CallStep("QLIB_DIAG_KeyPress_ClearMap", QLIB_DIAG_KeyPress_ClearMap, "()"))
         return 0;
     if (iMappingID < 1 || iMappingID > std::size(keyMaps))
     {
-        StepTrace(STEP_FAILURE, "Wrong mapping ID specified");
+        phone.StepTrace(STEP_FAILURE, "Wrong mapping ID specified");
         return 0;
     }
     const KeyMap& map = keyMaps[iMappingID - 1];
@@ -113,30 +113,30 @@ uint8_t PhoneProcedures::SpecialSetKeypadMapping(uint8_t iMappingID)
     {
         for (const KeyRow& row : rows)
         {
-            if (!AddMapEntry(row.iHW_ID, row.iKeyPressSW_ID))
+            if (!AddMapEntry(phone, row.iHW_ID, row.iKeyPressSW_ID))
                 return 0;
         }
     }
-    return Step(
+    return phone.Step(
         "QLIB_DIAG_KeyPress_ConfigureKeyDetect", "(sKeyUpString = %s, sKeyDownString = %s, iSSID = %d, iRT_MASK = 8)",
         [&]
         { return QLIB_DIAG_KeyPress_ConfigureKeyDetect(hResourceContext, keyUpText, keyDownText, map.iSSID, rtMask); },
-        ItemText<sizeof keyUpText>(keyUpText), ItemText<sizeof keyDownText>(keyDownText), map.iSSID);
+        ItemOf<sizeof keyUpText>(keyUpText), ItemOf<sizeof keyDownText>(keyDownText), map.iSSID);
 }
 
 // The queue is emptied first, so the size is that just after the clearing.
-uint8_t PhoneProcedures::TestKeypad(uint16_t* piKeypressQueueSize, uint16_t* piKeyPressID, uint8_t* piKeyPressEvent)
+uint8_t TANDEKOR_TestKeypad(ResourceContext hResourceContext, uint16_t* piKeypressQueueSize, uint16_t* piKeyPressID,
+                            uint8_t* piKeyPressEvent)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && CallStep("QLIB_DIAG_KeyPress_ClearQueue", QLIB_DIAG_KeyPress_ClearQueue, "()")
-           && Step(
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection()
+           && phone.CallStep("QLIB_DIAG_KeyPress_ClearQueue", QLIB_DIAG_KeyPress_ClearQueue, "()")
+           && phone.Step(
                "QLIB_DIAG_KeyPress_GetQueueSize", "(piKeypressQueueSize = %d)",
                [&] { return QLIB_DIAG_KeyPress_GetQueueSize(hResourceContext, piKeypressQueueSize); },
                *piKeypressQueueSize)
-           && Step(
+           && phone.Step(
                "QLIB_DIAG_KeyPress_GetNextKeyEvent", "(piKeyPressID = %d, piKeyPressEvent = %c)",
                [&] { return QLIB_DIAG_KeyPress_GetNextKeyEvent(hResourceContext, piKeyPressID, piKeyPressEvent); },
                *piKeyPressID, *piKeyPressEvent);
 }
-
-}  // namespace tandekor

@@ -3,13 +3,12 @@
 #include "core/operator_output.h"
 #include "phone/phone_models.h"
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tandekor/ftm.h"
 #include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 // The registers of an output pin: one enables it, the other gives its level, by the same bit.
 struct PinRegisters
@@ -101,138 +100,149 @@ CameraIdRead CameraIdReadOf(uint8_t camera, uint32_t model)
     return {0, 0, 0, 2, 0, 0};
 }
 
-}  // namespace
-
 // The pin is enabled before its level goes out. The arguments' text is that of the caller's result lines.
-bool PhoneProcedures::WritePin(const PinRegisters& registers, uint32_t mask, uint8_t state, const char* arguments)
+bool WritePin(const PhoneProcedure& phone, const PinRegisters& registers, uint32_t mask, uint8_t state,
+              const char* arguments)
 {
     constexpr uint8_t on = 1;
     const auto write = [&](uint32_t address, const uint8_t& bit)
     {
-        return StepWithoutStart(
-            "TK_SetBitState_32_Reg", arguments, [&] { return SetBitState_32_Reg(address, mask, bit); }, address, mask,
-            bit);
+        return phone.StepWithoutStart(
+            "TK_SetBitState_32_Reg", arguments,
+            [&] { return SetBitState_32_Reg(phone.hResourceContext, address, mask, bit); }, address, mask, bit);
     };
-    return StepTrace(STEP_START, "TK_SetBitState_32_Reg start for OE REG") && write(registers.oe, on)
-           && StepTrace(STEP_START, "TK_SetBitState_32_Reg start for OUT REG") && write(registers.out, state);
+    return phone.StepTrace(STEP_START, "TK_SetBitState_32_Reg start for OE REG") && write(registers.oe, on)
+           && phone.StepTrace(STEP_START, "TK_SetBitState_32_Reg start for OUT REG") && write(registers.out, state);
 }
 
-uint8_t PhoneProcedures::FTM_SetKeyPadBackLightGPIO(uint16_t iRowNumber, uint8_t bOnOff)
+}  // namespace
+
+uint8_t TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, uint16_t iRowNumber, uint8_t bOnOff)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr char arguments[] = "(Address = %u,  mask = %u, bOnOff = %d";
-    StepTrace(STEP_START, "TK_SetKeyPadBackLight() start");
+    phone.StepTrace(STEP_START, "TK_SetKeyPadBackLight() start");
     uint32_t model = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0 || !AskPhoneModel(&model))
+    if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
     if (model == dravok)
     {
         if (iRowNumber == outsideKeypadRow)
             return QLIB_FTM_SET_PMIC_DRIVE_LEVEL(hResourceContext, 1, static_cast<uint8_t>(bOnOff * 15));
         if (iRowNumber == insideKeypadRow)
-            return WritePin(bank2, insideKeypadMask, bOnOff, arguments);
+            return WritePin(phone, bank2, insideKeypadMask, bOnOff, arguments);
         PrintForOperator("\nDRAVOK not support, Please choose 7(Insidekeypad) or 5(OutsideKeypad).");
         return 0;
     }
     if (!IsKolt(model))
     {
-        StepTrace(STEP_START, "\tWrong mobile model");
+        phone.StepTrace(STEP_START, "\tWrong mobile model");
         return 0;
     }
     if (iRowNumber < 1 || iRowNumber > lastRow)
     {
-        StepTrace(STEP_START, "\tParameter RowNumber over the range (1-7).");
+        phone.StepTrace(STEP_START, "\tParameter RowNumber over the range (1-7).");
         return 0;
     }
-    if (iRowNumber >= firstPreparedRow && !WritePin(bank3, preparationMask, 1, arguments))
+    if (iRowNumber >= firstPreparedRow && !WritePin(phone, bank3, preparationMask, 1, arguments))
         return 0;
     for (const LightWrite& light : lightWrites)
     {
-        if (light.row == iRowNumber && !WritePin(light.registers, light.mask, bOnOff, arguments))
+        if (light.row == iRowNumber && !WritePin(phone, light.registers, light.mask, bOnOff, arguments))
             return 0;
     }
     return 1;
 }
 
-bool PhoneProcedures::ReadFlipBit(uint32_t address, char* pcFlipState)
+namespace
 {
-    uint32_t reg = 0;
-    return StepWithoutStart(
+
+bool ReadFlipBit(const PhoneProcedure& phone, uint32_t address, uint32_t* reg, char* pcFlipState)
+{
+    return phone.StepWithoutStart(
         "TK_GetBitState_32_Reg", "(Address = %u, bitNum = %u, reg = %u, bOnOff = %c)",
-        [&] { return TK_GetBitState_32_Reg(address, flipBit, &reg, pcFlipState); }, address, flipBit, reg,
-        *pcFlipState);
+        [&] { return TK_GetBitState_32_Reg(phone.hResourceContext, address, flipBit, reg, pcFlipState); }, address,
+        flipBit, *reg, *pcFlipState);
 }
 
-// The direction of the pin decides which register gives its level.
-uint8_t PhoneProcedures::FTM_TestFlip(char* pcFlipState, uint8_t bSkipModelRead)
+}  // namespace
+
+// The direction of the pin decides which register holds its level. A second read that fails shows what the first read.
+uint8_t TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState, uint8_t bSkipModelRead)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint32_t model = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0 || (bSkipModelRead == 0 && !AskPhoneModel(&model)))
+    if (!phone.CheckConnection() || (bSkipModelRead == 0 && !phone.AskPhoneModel(&model)))
         return 0;
     if (model != dravok)
     {
         PrintForOperator("\nNot support this model");
         return 0;
     }
-    return ReadFlipBit(flipDirectionRegister, pcFlipState) && StepTrace(STEP_START, "TK_GetBitState_32_Reg start")
-           && ReadFlipBit(*pcFlipState == '0' ? flipInputRegister : flipOutputRegister, pcFlipState);
+    uint32_t reg = 0;
+    return ReadFlipBit(phone, flipDirectionRegister, &reg, pcFlipState)
+           && phone.StepTrace(STEP_START, "TK_GetBitState_32_Reg start")
+           && ReadFlipBit(phone, *pcFlipState == '0' ? flipInputRegister : flipOutputRegister, &reg, pcFlipState);
 }
 
-uint8_t PhoneProcedures::FTM_KOLT_CAMERA_SWITCH(uint8_t iCameraNum)
+uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_t iCameraNum)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr char arguments[] = "(Address = %u,  mask = %u, bOnOff = %d)";
     constexpr uint32_t modelWithExchangedCameras = 54;
     uint32_t model = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0 || !AskPhoneModel(&model))
+    if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
     if (!IsKolt(model))
     {
-        StepTrace(STEP_START, "\tWrong mobile model");
+        phone.StepTrace(STEP_START, "\tWrong mobile model");
         return 0;
     }
     if (model == modelWithExchangedCameras && iCameraNum <= 1)
         iCameraNum = iCameraNum == 0 ? 1 : 0;
     if (iCameraNum > 1)
     {
-        StepTrace(STEP_START, "\tWrong camera number (%d)", iCameraNum);
+        phone.StepTrace(STEP_START, "\tWrong camera number (%d)", iCameraNum);
         return 0;
     }
     for (const CameraWrite& camera : cameraWrites[iCameraNum])
     {
-        if (!WritePin(camera.registers, camera.mask, camera.state, arguments))
+        if (!WritePin(phone, camera.registers, camera.mask, camera.state, arguments))
             return 0;
     }
-    StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_KOLT_CAMERA_SWITCH(iCameraNum = %d)", iCameraNum);
+    phone.StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_KOLT_CAMERA_SWITCH(iCameraNum = %d)", iCameraNum);
     return 1;
 }
 
 // The camera is stopped once it was asked to start, also after a failure.
-uint8_t PhoneProcedures::FTM_I2C_GetCameraId(uint8_t iCamNum, uint16_t* piCamId)
+uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum, uint16_t* piCamId)
 {
+    const PhoneProcedure phone(hResourceContext);
     uint32_t model = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0 || !AskPhoneModel(&model))
+    if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
 
     uint32_t cameraStatus = 4;
     const auto statusIsGood = [&] { return static_cast<uint16_t>(cameraStatus) == 0; };
     const auto stopCamera = [&]
     {
-        return StepWithoutStart(
+        return phone.StepWithoutStart(
             "QLIB_FTM_CAMERA_STOP", "(piCameraStatus = %d)",
             [&] { return QLIB_FTM_CAMERA_STOP(hResourceContext, &cameraStatus); }, LowWordOf{&cameraStatus});
     };
     const auto fail = [&]
     {
-        StepTrace(STEP_FAILURE, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d)", iCamNum);
-        StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
+        phone.StepTrace(STEP_FAILURE, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d)", iCamNum);
+        phone.StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
         return uint8_t{0};
     };
 
     if (iCamNum > 1)
     {
-        StepTrace(STEP_START, "Parameter iCamId over the range (0-1).");
+        phone.StepTrace(STEP_START, "Parameter iCamId over the range (0-1).");
         return fail();
     }
-    if (!StepWithoutStart(
+    if (!phone.StepWithoutStart(
             "QLIB_FTM_CAMERA_SET_SENSOR_ID", "(iCamNum = %d, piCameraStatus = %d)",
             [&]
             { return QLIB_FTM_CAMERA_SET_SENSOR_ID(hResourceContext, iCamNum, &cameraStatus) != 0 && statusIsGood(); },
@@ -241,11 +251,11 @@ uint8_t PhoneProcedures::FTM_I2C_GetCameraId(uint8_t iCamNum, uint16_t* piCamId)
     const CameraIdRead read = CameraIdReadOf(iCamNum, model);
     uint8_t data[2] = {};
     const bool identified
-        = StepWithoutStart(
+        = phone.StepWithoutStart(
               "QLIB_FTM_CAMERA_START", "(piCameraStatus = %d)",
               [&] { return QLIB_FTM_CAMERA_START(hResourceContext, &cameraStatus) != 0 && statusIsGood(); },
               LowWordOf{&cameraStatus})
-          && StepWithoutStart(
+          && phone.StepWithoutStart(
               "TANDEKOR_FTM_I2C_DATA_ACCESS",
               "(accessType = 0 (READ), slaveAddr = %d, regAddrLen = %d, regAddr = %d, dataLen = %d, "
               "data = %d)",
@@ -259,9 +269,7 @@ uint8_t PhoneProcedures::FTM_I2C_GetCameraId(uint8_t iCamNum, uint16_t* piCamId)
         *piCamId = data[read.idByte];
     if (!stopCamera() || !identified)
         return fail();
-    StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d, iCamId = %d)", iCamNum, *piCamId);
-    StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
+    phone.StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d, iCamId = %d)", iCamNum, *piCamId);
+    phone.StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
     return 1;
 }
-
-}  // namespace tandekor

@@ -4,13 +4,12 @@
 
 #include "platform/clock.h"
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "procedures/start_mode.h"
 #include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -53,15 +52,12 @@ const NetworkMode* FindNetworkMode(uint8_t eNetwMode)
     return mode == std::end(networkModes) ? nullptr : mode;
 }
 
-}  // namespace
-
 // --- the virtual SIM
-
-int PhoneProcedures::WaitForPhone()
+int WaitForPhone(const PhoneProcedure& phone)
 {
     constexpr int mostFurtherPolls = 20;
     int furtherPolls = 0;
-    while (QLIB_IsPhoneConnected(hResourceContext) == 0 && furtherPolls < mostFurtherPolls)
+    while (QLIB_IsPhoneConnected(phone.hResourceContext) == 0 && furtherPolls < mostFurtherPolls)
     {
         platform::Sleep(500);
         ++furtherPolls;
@@ -69,81 +65,87 @@ int PhoneProcedures::WaitForPhone()
     return furtherPolls;
 }
 
-bool PhoneProcedures::ForceFtmMode(bool* restartedSlowly)
+bool ForceFtmMode(const PhoneProcedure& phone, bool* restartedSlowly)
 {
     uint8_t isFtmMode = 0;
-    QLIB_SetLogFlags(hResourceContext, logMuted);
-    QLIB_DIAG_CONTROL_F(hResourceContext, goOffline);
-    QLIB_DIAG_CONTROL_F(hResourceContext, reset);
+    QLIB_SetLogFlags(phone.hResourceContext, logMuted);
+    QLIB_DIAG_CONTROL_F(phone.hResourceContext, goOffline);
+    QLIB_DIAG_CONTROL_F(phone.hResourceContext, reset);
     platform::Sleep(2000);
-    WaitForPhone();
+    WaitForPhone(phone);
     platform::Sleep(3000);
-    *restartedSlowly = WaitForPhone() > 0;
-    QLIB_IsFTM_Mode(hResourceContext, &isFtmMode);
+    *restartedSlowly = WaitForPhone(phone) > 0;
+    QLIB_IsFTM_Mode(phone.hResourceContext, &isFtmMode);
     if (isFtmMode != 0)
         return true;
-    QLIB_SetLogFlags(hResourceContext, logNormal);
-    StepTrace(STEP_FAILURE, "Cannot switch to FTM mode");
+    QLIB_SetLogFlags(phone.hResourceContext, logNormal);
+    phone.StepTrace(STEP_FAILURE, "Cannot switch to FTM mode");
     return false;
 }
 
+}  // namespace
+
 // A failed clock is reported and passed over. The log is muted only while the phone restarts.
-uint8_t PhoneProcedures::Virtual_SIM(char* iSPC, uint8_t* piSPC_Result)
+uint8_t TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "QLIB_DIAG_SPC_F", "(iSPC = %s)", [&] { return QLIB_DIAG_SPC_F(hResourceContext, iSPC, piSPC_Result); },
-            ItemText<textAreaSize>(iSPC))
-        || !StepWithoutStart("TANDEKOR_ONLINE_TO_FTM", "()", [&] { return TANDEKOR_ONLINE_TO_FTM(hResourceContext); }))
+            ItemOf<textBufferSize>(iSPC))
+        || !phone.StepWithoutStart("TANDEKOR_ONLINE_TO_FTM", "()",
+                                   [&] { return TANDEKOR_ONLINE_TO_FTM(hResourceContext); }))
         return 0;
 
     platform::Sleep(1000);
     uint8_t isFtmMode = 0;
     bool restartedSlowly = false;
     QLIB_IsFTM_Mode(hResourceContext, &isFtmMode);
-    if (isFtmMode == 0 && !ForceFtmMode(&restartedSlowly))
+    if (isFtmMode == 0 && !ForceFtmMode(phone, &restartedSlowly))
         return 0;
     QLIB_SetLogFlags(hResourceContext, logNormal);
 
-    if (!CallStep("TANDEKOR_SpecialSetRtcActualTime", TANDEKOR_SpecialSetRtcActualTime, "()"))
-        StepTrace(STEP_FAILURE, "Cannot set actual time");
-    if (!StepWithoutStart("TANDEKOR_FTM_TO_ONLINE", "()", [&] { return TANDEKOR_FTM_TO_ONLINE(hResourceContext); }))
+    if (!phone.CallStep("TANDEKOR_SpecialSetRtcActualTime", TANDEKOR_SpecialSetRtcActualTime, "()"))
+        phone.StepTrace(STEP_FAILURE, "Cannot set actual time");
+    if (!phone.StepWithoutStart("TANDEKOR_FTM_TO_ONLINE", "()",
+                                [&] { return TANDEKOR_FTM_TO_ONLINE(hResourceContext); }))
         return 0;
 
     platform::Sleep(3000);
     if (restartedSlowly)
         platform::Sleep(3000);
     QLIB_SetLogFlags(hResourceContext, logMuted);
-    WaitForPhone();
+    WaitForPhone(phone);
     QLIB_SetLogFlags(hResourceContext, logNormal);
-    return CallStep("TANDEKOR_SimSimulation", TANDEKOR_SimSimulation, "()");
+    return phone.CallStep("TANDEKOR_SimSimulation", SimSimulation, "()");
 }
 
-bool PhoneProcedures::SimSimulation()
+bool tandekor::SimSimulation(ResourceContext hResourceContext)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr uint8_t slot = 1;
     constexpr uint8_t applicationIdSize = 16;
     uint8_t applicationId[applicationIdSize] = {};
     uint32_t commandStatus = 0;
     uint32_t status = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "QLIB_GSDIDIAG_ACTIVATE_ONCHIP_SIM_CMD", "(iSlotId = %c, iSIM_AppIdLen = %c, piSIM_AppId = %s)",
             [&]
             {
                 return QLIB_GSDIDIAG_ACTIVATE_ONCHIP_SIM_CMD(hResourceContext, slot, applicationIdSize, applicationId,
                                                              &commandStatus, &status);
             },
-            slot, applicationIdSize, ItemText<applicationIdSize>(applicationId)))
+            slot, applicationIdSize, ItemOf<applicationIdSize>(applicationId)))
         return false;
     if (status != 0)
     {
-        StepTrace(STEP_FAILURE, "(_iStatus != 0)");
+        phone.StepTrace(STEP_FAILURE, "(_iStatus != 0)");
         return false;
     }
     if (commandStatus != 0)
     {
-        StepTrace(STEP_FAILURE, "(_iCommandStatus != 0)");
+        phone.StepTrace(STEP_FAILURE, "(_iCommandStatus != 0)");
         return false;
     }
     return true;
@@ -152,11 +154,12 @@ bool PhoneProcedures::SimSimulation()
 // --- clock
 
 // The phone gets Coordinated Universal Time. The time mode has no value of its own here and is sent as 0, which ends
-// the text of the result line.
-uint8_t PhoneProcedures::SpecialSetRtcActualTime()
+// the text of the result line. The host library's result is the result.
+uint8_t TANDEKOR_SpecialSetRtcActualTime(ResourceContext hResourceContext)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr uint8_t write = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    if (!phone.CheckConnection())
         return 0;
     const platform::UtcTime now = platform::CurrentUtcTime();
     uint8_t iTimeMode = 0;
@@ -166,47 +169,53 @@ uint8_t PhoneProcedures::SpecialSetRtcActualTime()
     auto iHour = static_cast<uint8_t>(now.hour);
     auto iMinute = static_cast<uint8_t>(now.minute);
     auto iSecond = static_cast<uint8_t>(now.second);
-    return Step(
+    uint8_t result = 0;
+    phone.Step(
         "QLIB_FTM_PMIC_RTC_SET_GET_TIME",
         "(iReadWrite = 0, iTimeMode = %c, iMonth = %c, iDay = %c, iYear = %c, iHour = %c, iMinute = %c, "
         "iSecond = %c)",
         [&]
         {
-            return QLIB_FTM_PMIC_RTC_SET_GET_TIME(hResourceContext, write, &iTimeMode, &iMonth, &iDay, &iYear, &iHour,
-                                                  &iMinute, &iSecond);
+            return result = QLIB_FTM_PMIC_RTC_SET_GET_TIME(hResourceContext, write, &iTimeMode, &iMonth, &iDay, &iYear,
+                                                           &iHour, &iMinute, &iSecond);
         },
         iTimeMode, iMonth, iDay, iYear, iHour, iMinute, iSecond);
+    return result;
 }
 
 // --- network
 
-uint8_t PhoneProcedures::NetworkAndChannelPreselection(uint8_t eNetwMode, uint8_t eChannelMode, uint16_t uiChannel)
+uint8_t TANDEKOR_NetworkAndChannelPreselection(ResourceContext hResourceContext, uint8_t eNetwMode,
+                                               uint8_t eChannelMode, uint16_t uiChannel)
 {
+    const PhoneProcedure phone(hResourceContext);
     const uint8_t cleared[longItemSize] = {};
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && Step(
+    return phone.CheckConnection()
+           && phone.Step(
                "TANDEKOR_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %u, iLength = 128)",
-               [&] { return TANDEKOR_DIAG_NV_WRITE_F(hResourceContext, clearedItem, cleared, longItemSize); },
-               clearedItem, AddressOf{cleared})
-           && CallStep("TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE", TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE, "(eNetwMode = %c)",
-                       eNetwMode)
-           && CallStep("TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL", TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL,
-                       "(eNetwMode = %c, uiChannel = %d)", eChannelMode, uiChannel);
+               [&] { return DIAG_NV_WRITE_F(hResourceContext, clearedItem, cleared, longItemSize); }, clearedItem,
+               AddressOf{cleared})
+           && phone.CallStep("TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE", NV_WRITE_NETWORK_SCAN_MODE, "(eNetwMode = %c)",
+                             eNetwMode)
+           && phone.CallStep("TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL", NV_WRITE_LAST_GOOD_CHANNEL,
+                             "(eNetwMode = %c, uiChannel = %d)", eChannelMode, uiChannel);
 }
 
-bool PhoneProcedures::NV_WRITE_NETWORK_SCAN_MODE(uint8_t eNetwMode)
+bool tandekor::NV_WRITE_NETWORK_SCAN_MODE(ResourceContext hResourceContext, uint8_t eNetwMode)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     const NetworkMode* mode = FindNetworkMode(eNetwMode);
-    return mode != nullptr && WriteItem(scanModeItem1, mode->scanMode1, sizeof mode->scanMode1)
-           && WriteItem(scanModeItem2, mode->scanMode2, sizeof mode->scanMode2)
-           && WriteItem(scanModeItem3, mode->scanMode3, sizeof mode->scanMode3);
+    return mode != nullptr && phone.WriteItem(scanModeItem1, mode->scanMode1, sizeof mode->scanMode1)
+           && phone.WriteItem(scanModeItem2, mode->scanMode2, sizeof mode->scanMode2)
+           && phone.WriteItem(scanModeItem3, mode->scanMode3, sizeof mode->scanMode3);
 }
 
-bool PhoneProcedures::NV_WRITE_LAST_GOOD_CHANNEL(uint8_t eNetwMode, uint16_t uiChannel)
+bool tandekor::NV_WRITE_LAST_GOOD_CHANNEL(ResourceContext hResourceContext, uint8_t eNetwMode, uint16_t uiChannel)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     const NetworkMode* mode = FindNetworkMode(eNetwMode);
     if (mode == nullptr)
@@ -219,21 +228,21 @@ bool PhoneProcedures::NV_WRITE_LAST_GOOD_CHANNEL(uint8_t eNetwMode, uint16_t uiC
         item[2] = static_cast<uint8_t>(uiChannel >> 8);
         item[3] = mode->channelKind;
     }
-    return WriteItem(lastGoodChannelItem, item, longItemSize);
+    return phone.WriteItem(lastGoodChannelItem, item, longItemSize);
 }
 
-uint8_t PhoneProcedures::NV_SetRoamingListStatus(uint8_t bRoamingListOn)
+uint8_t TANDEKOR_NV_SetRoamingListStatus(ResourceContext hResourceContext, uint8_t bRoamingListOn)
 {
+    const PhoneProcedure phone(hResourceContext);
     const uint8_t roaming[] = {0, static_cast<uint8_t>(bRoamingListOn == 1 ? 1 : 0)};
     const uint8_t secondRoaming[] = {0x80, 0x00};
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && WriteItem(roamingItem, roaming, sizeof roaming)
-           && WriteItem(secondRoamingItem, secondRoaming, sizeof secondRoaming);
+    return phone.CheckConnection() && phone.WriteItem(roamingItem, roaming, sizeof roaming)
+           && phone.WriteItem(secondRoamingItem, secondRoaming, sizeof secondRoaming);
 }
 
-uint8_t PhoneProcedures::NVSetAutoAnswerStatus(uint8_t bAutoAnswerOn)
+uint8_t TANDEKOR_NVSetAutoAnswerStatus(ResourceContext hResourceContext, uint8_t bAutoAnswerOn)
 {
+    const PhoneProcedure phone(hResourceContext);
     const uint8_t autoAnswer = bAutoAnswerOn == 1 ? 1 : 0;
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && WriteItem(autoAnswerItem, &autoAnswer, 1);
+    return phone.CheckConnection() && phone.WriteItem(autoAnswerItem, &autoAnswer, 1);
 }
-
-}  // namespace tandekor

@@ -1,11 +1,10 @@
 // NV items and hardware registers of the phone, with the checks that a bare host call lacks.
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -29,55 +28,62 @@ constexpr char registerArguments[] = "(iAddress = %u, iNumItems = 1, pItemArray 
 
 }  // namespace
 
-bool PhoneProcedures::DIAG_NV_WRITE_F(uint16_t iItemID, const uint8_t* pItemData, int32_t iLength)
+bool tandekor::DIAG_NV_WRITE_F(ResourceContext hResourceContext, uint16_t iItemID, const uint8_t* pItemData,
+                               int32_t iLength)
 {
+    const PhoneProcedure phone(hResourceContext);
     HostWord status;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "QLIB_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %u, iLength = %i)",
             [&] { return QLIB_DIAG_NV_WRITE_F(hResourceContext, iItemID, pItemData, iLength, status.Out()); }, iItemID,
             AddressOf{pItemData}, iLength))
         return false;
     if (status.Value() != 0)
     {
-        StepTrace(STEP_FAILURE, "QLIB_DIAG_NV_WRITE_F(iNvStatus = %i)", status.Value());
+        phone.StepTrace(STEP_FAILURE, "QLIB_DIAG_NV_WRITE_F(iNvStatus = %i)", status.Value());
         return false;
     }
     return true;
 }
 
-bool PhoneProcedures::DIAG_NV_READ_F(uint16_t iItemID, uint8_t* pItemData, int32_t iLength)
+bool tandekor::DIAG_NV_READ_F(ResourceContext hResourceContext, uint16_t iItemID, uint8_t* pItemData, int32_t iLength)
 {
+    const PhoneProcedure phone(hResourceContext);
     HostWord status;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step("QLIB_DIAG_NV_READ_F", "",
-                 [&] { return QLIB_DIAG_NV_READ_F(hResourceContext, iItemID, pItemData, iLength, status.Out()); }))
+    if (!phone.CheckConnection()
+        || !phone.Step("QLIB_DIAG_NV_READ_F", "",
+                       [&]
+                       { return QLIB_DIAG_NV_READ_F(hResourceContext, iItemID, pItemData, iLength, status.Out()); }))
         return false;
     if (status.Value() != 0)
     {
-        StepTrace(STEP_FAILURE, "QLIB_DIAG_NV_READ_F(iNvStatus = %i)", status.Value());
+        phone.StepTrace(STEP_FAILURE, "QLIB_DIAG_NV_READ_F(iNvStatus = %i)", status.Value());
         return false;
     }
     return true;
 }
 
-bool PhoneProcedures::NV_READ_GSM_RX_REL_OFFSETS(uint16_t iItemID, uint8_t* cBin3, int32_t iLength)
+bool tandekor::NV_READ_GSM_RX_REL_OFFSETS(ResourceContext hResourceContext, uint16_t iItemID, uint8_t* cBin3,
+                                          int32_t iLength)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && StepTrace(STEP_START, "\tQLIB_DIAG_NV_READ_F() start")
-           && StepWithoutStart(
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection() && phone.StepTrace(STEP_START, "\tQLIB_DIAG_NV_READ_F() start")
+           && phone.StepWithoutStart(
                "TANDEKOR_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = %i)",
-               [&] { return TANDEKOR_DIAG_NV_READ_F(hResourceContext, iItemID, cBin3, iLength); }, iItemID,
-               ItemText<textAreaSize>(cBin3, iLength), iLength);
+               [&] { return DIAG_NV_READ_F(hResourceContext, iItemID, cBin3, iLength); }, iItemID,
+               ItemOf<textBufferSize>(cBin3, iLength), iLength);
 }
 
-bool PhoneProcedures::DIAG_NV_WRITE_FLUSH_BATCH_QUEUE()
+bool tandekor::DIAG_NV_WRITE_FLUSH_BATCH_QUEUE(ResourceContext hResourceContext)
 {
+    const PhoneProcedure phone(hResourceContext);
     constexpr uint16_t DIAG_MNVW_Status_OK = 0;
     uint32_t lastErrorNvId = 0;
     uint32_t lastTotalStatus = 0;
     uint8_t lastItemStatus = 0;
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0
-        || !Step(
+    if (!phone.CheckConnection()
+        || !phone.Step(
             "QLIB_DIAG_NV_WRITE_FlushBatchQueue",
             "(piLastErrorNvId = %c, piLastTotalStatus =%c, piLastItemStatus = %c)",
             [&] {
@@ -88,60 +94,69 @@ bool PhoneProcedures::DIAG_NV_WRITE_FLUSH_BATCH_QUEUE()
         return false;
     if (static_cast<uint16_t>(lastTotalStatus) != DIAG_MNVW_Status_OK)
     {
-        StepTrace(STEP_FAILURE, "_iLastTotalStatus != (int)DIAG_MNVW_Status_OK");
+        phone.StepTrace(STEP_FAILURE, "_iLastTotalStatus != (int)DIAG_MNVW_Status_OK");
         return false;
     }
     return true;
 }
 
+namespace
+{
+
 // The poke is made even if it changes nothing, and only the masked bits must read back as written.
 template <typename Value, typename Access>
-bool PhoneProcedures::SetBits(const Access& access, uint32_t iAddress, Value iMask, uint8_t bOnOff)
+bool SetBits(const PhoneProcedure& phone, const Access& access, uint32_t iAddress, Value iMask, uint8_t bOnOff)
 {
     Value peeked = 0;
     Value poked = 0;
     const auto peek = [&]
     {
-        return Step(
-            access.peekName, registerArguments, [&] { return access.peek(hResourceContext, iAddress, 1, &peeked); },
-            iAddress, AddressOf{&peeked});
+        return phone.Step(
+            access.peekName, registerArguments,
+            [&] { return access.peek(phone.hResourceContext, iAddress, 1, &peeked); }, iAddress, AddressOf{&peeked});
     };
     if (!peek())
         return false;
     poked = static_cast<Value>(bOnOff != 0 ? peeked | iMask : peeked & ~iMask);
-    if (!Step(
-            access.pokeName, registerArguments, [&] { return access.poke(hResourceContext, iAddress, 1, &poked); },
-            iAddress, AddressOf{&poked})
+    if (!phone.Step(
+            access.pokeName, registerArguments,
+            [&] { return access.poke(phone.hResourceContext, iAddress, 1, &poked); }, iAddress, AddressOf{&poked})
         || !peek())
         return false;
     if ((poked & iMask) != (peeked & iMask))
     {
-        StepTrace(STEP_FAILURE, "(_iPokeStorage != _iPeekStorage)");
+        phone.StepTrace(STEP_FAILURE, "(_iPokeStorage != _iPeekStorage)");
         return false;
     }
     return true;
 }
 
-bool PhoneProcedures::SetBitState_8_Reg(uint32_t iAddress, uint8_t iMask, uint8_t bOnOff)
+}  // namespace
+
+bool tandekor::SetBitState_8_Reg(ResourceContext hResourceContext, uint32_t iAddress, uint8_t iMask, uint8_t bOnOff)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0 && SetBits(byteAccess, iAddress, iMask, bOnOff);
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection() && SetBits(phone, byteAccess, iAddress, iMask, bOnOff);
 }
 
-bool PhoneProcedures::SetBitState_32_Reg(uint32_t iAddress, uint32_t iMask, uint8_t bOnOff)
+bool tandekor::SetBitState_32_Reg(ResourceContext hResourceContext, uint32_t iAddress, uint32_t iMask, uint8_t bOnOff)
 {
-    return SetBits(dwordAccess, iAddress, iMask, bOnOff);
+    const PhoneProcedure phone(hResourceContext);
+    return SetBits(phone, dwordAccess, iAddress, iMask, bOnOff);
 }
 
-bool PhoneProcedures::TK_GetBitState_32_Reg(uint32_t Address, uint16_t bitNum, uint32_t* reg, char* bOnOff)
+bool tandekor::TK_GetBitState_32_Reg(ResourceContext hResourceContext, uint32_t Address, uint16_t bitNum, uint32_t* reg,
+                                     char* bOnOff)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     if (bitNum > 32)
     {
-        StepTrace(STEP_START, "bitNum over the range: %d", bitNum);
+        phone.StepTrace(STEP_START, "bitNum over the range: %d", bitNum);
         return false;
     }
-    if (!Step(
+    if (!phone.Step(
             dwordAccess.peekName, registerArguments,
             [&] { return dwordAccess.peek(hResourceContext, Address, 1, reg); }, Address, AddressOf{reg}))
         return false;
@@ -149,5 +164,3 @@ bool PhoneProcedures::TK_GetBitState_32_Reg(uint32_t Address, uint16_t bitNum, u
     *bOnOff = (*reg & mask) != 0 ? '1' : '0';
     return true;
 }
-
-}  // namespace tandekor

@@ -1,10 +1,10 @@
 // The storing of a whole receiver calibration, in one batch of NV writes.
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
+#include "tandekor/procedures.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -39,25 +39,26 @@ constexpr LnaItems lnaBands[] = {
     {6, {1839, 1823, 1824}, {1840, 1825, 1826}},
 };
 
-using ShortRange = ItemText<shortRangeSize>;
-using LongRange = ItemText<longRangeSize>;
-using VsFreq = ItemText<vsFreqSize>;
+using ShortRange = ItemOf<shortRangeSize>;
+using LongRange = ItemOf<longRangeSize>;
+using VsFreq = ItemOf<vsFreqSize>;
 
 }  // namespace
 
 // A failure in front of the flush leaves in the host library's queue what it has taken so far.
-uint8_t PhoneProcedures::Write_RX_Adjustment_Values(
-    uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2, uint8_t* Gsm900Range3, uint8_t* Gsm900Range4,
-    uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2, uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4,
-    uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2, uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4,
-    uint8_t* Gsm850Range1, uint8_t* Gsm850Range2, uint8_t* Gsm850Range3, uint8_t* Gsm850Range4, uint8_t eNvBand,
-    int16_t iOffset1, uint8_t* piVsFreq1, int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3,
-    uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq)
+uint8_t TANDEKOR_Write_RX_Adjustment_Values(
+    ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
+    uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
+    uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
+    uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2, uint8_t* Gsm850Range3,
+    uint8_t* Gsm850Range4, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1, int16_t iOffset2, uint8_t* piVsFreq2,
+    int16_t iOffset3, uint8_t* piVsFreq3, uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq)
 {
-    return TANDEKOR_CheckConnection(hResourceContext) != 0
-           && CallStep("QLIB_DIAG_NV_WRITE_SetBatchMode", QLIB_DIAG_NV_WRITE_SetBatchMode, "(bStartBatchMode = %c)",
-                       bStartBatchMode)
-           && Step(
+    const PhoneProcedure phone(hResourceContext);
+    return phone.CheckConnection()
+           && phone.CallStep("QLIB_DIAG_NV_WRITE_SetBatchMode", QLIB_DIAG_NV_WRITE_SetBatchMode,
+                             "(bStartBatchMode = %c)", bStartBatchMode)
+           && phone.Step(
                "TANDEKOR_NV_WRITE_GSM_RX_GAIN_RANGE",
                "(Gsm900Range1 = %s, Gsm900Range2 = %s, Gsm900Range3 = %s, Gsm900Range4 = %s, "
                "Gsm1900Range1 = %s, Gsm1900Range2 = %s, Gsm1900Range3 = %s, Gsm1900Range4 = %s, "
@@ -65,7 +66,7 @@ uint8_t PhoneProcedures::Write_RX_Adjustment_Values(
                "Gsm850Range1 = %s, Gsm850Range2 = %s, Gsm850Range3 = %s, Gsm850Range4 = %s)",
                [&]
                {
-                   return TANDEKOR_NV_WRITE_GSM_RX_GAIN_RANGE(
+                   return NV_WRITE_GSM_RX_GAIN_RANGE(
                        hResourceContext, Gsm900Range1, Gsm900Range2, Gsm900Range3, Gsm900Range4, Gsm1900Range1,
                        Gsm1900Range2, Gsm1900Range3, Gsm1900Range4, Gsm1800Range1, Gsm1800Range2, Gsm1800Range3,
                        Gsm1800Range4, Gsm850Range1, Gsm850Range2, Gsm850Range3, Gsm850Range4);
@@ -74,48 +75,51 @@ uint8_t PhoneProcedures::Write_RX_Adjustment_Values(
                LongRange(Gsm1900Range1), LongRange(Gsm1900Range2), LongRange(Gsm1900Range3), LongRange(Gsm1900Range4),
                LongRange(Gsm1800Range1), LongRange(Gsm1800Range2), LongRange(Gsm1800Range3), LongRange(Gsm1800Range4),
                ShortRange(Gsm850Range1), ShortRange(Gsm850Range2), ShortRange(Gsm850Range3), ShortRange(Gsm850Range4))
-           && Step(
+           && phone.Step(
                "TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET",
                "(eNvBand = %c, iOffset1 = %d, piVsFreq1 = %s, iOffset2 = %d, piVsFreq2 = %s, iOffset3 = %d, "
                "piVsFreq3 = %s)",
                [&]
                {
-                   return TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET(hResourceContext, eNvBand, iOffset1, piVsFreq1, iOffset2,
-                                                             piVsFreq2, iOffset3, piVsFreq3);
+                   return NV_WRITE_WCDMA_LNA_OFFSET(hResourceContext, eNvBand, iOffset1, piVsFreq1, iOffset2, piVsFreq2,
+                                                    iOffset3, piVsFreq3);
                },
                eNvBand, iOffset1, VsFreq(piVsFreq1), iOffset2, VsFreq(piVsFreq2), iOffset3, VsFreq(piVsFreq3))
-           && Step(
+           && phone.Step(
                "TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN", "(eNvBand = %d, iOffset = %d, piVsFreq = %s)",
-               [&] { return TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN(hResourceContext, eVgaNvBand, iOffset, piVsFreq); },
-               eVgaNvBand, iOffset, VsFreq(piVsFreq))
-           && CallStep("TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE, "()");
+               [&] { return NV_WRITE_WCDMA_VGA_GAIN(hResourceContext, eVgaNvBand, iOffset, piVsFreq); }, eVgaNvBand,
+               iOffset, VsFreq(piVsFreq))
+           && phone.CallStep("TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", DIAG_NV_WRITE_FLUSH_BATCH_QUEUE, "()");
 }
 
-bool PhoneProcedures::NV_WRITE_GSM_RX_GAIN_RANGE(uint8_t* Gsm900Range1, uint8_t* Gsm900Range2, uint8_t* Gsm900Range3,
-                                                 uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
-                                                 uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1,
-                                                 uint8_t* Gsm1800Range2, uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4,
-                                                 uint8_t* Gsm850Range1, uint8_t* Gsm850Range2, uint8_t* Gsm850Range3,
-                                                 uint8_t* Gsm850Range4)
+bool tandekor::NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, uint8_t* Gsm900Range1,
+                                          uint8_t* Gsm900Range2, uint8_t* Gsm900Range3, uint8_t* Gsm900Range4,
+                                          uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2, uint8_t* Gsm1900Range3,
+                                          uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
+                                          uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1,
+                                          uint8_t* Gsm850Range2, uint8_t* Gsm850Range3, uint8_t* Gsm850Range4)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     const RangeItem* item = rangeItems;
     for (const uint8_t* range : {Gsm900Range1, Gsm900Range2, Gsm900Range3, Gsm900Range4, Gsm1900Range1, Gsm1900Range2,
                                  Gsm1900Range3, Gsm1900Range4, Gsm1800Range1, Gsm1800Range2, Gsm1800Range3,
                                  Gsm1800Range4, Gsm850Range1, Gsm850Range2, Gsm850Range3, Gsm850Range4})
     {
-        if (range != nullptr && !WriteItem(item->iItemID, range, item->size))
+        if (range != nullptr && !phone.WriteItem(item->iItemID, range, item->size))
             return false;
         ++item;
     }
     return true;
 }
 
-bool PhoneProcedures::NV_WRITE_WCDMA_LNA_OFFSET(uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1, int16_t iOffset2,
-                                                uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3)
+bool tandekor::NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8_t eNvBand, int16_t iOffset1,
+                                         uint8_t* piVsFreq1, int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3,
+                                         uint8_t* piVsFreq3)
 {
-    if (TANDEKOR_CheckConnection(hResourceContext) == 0)
+    const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
         return false;
     const int16_t offsets[] = {iOffset1, iOffset2, iOffset3};
     const uint8_t* tables[] = {piVsFreq1, piVsFreq2, piVsFreq3};
@@ -126,13 +130,11 @@ bool PhoneProcedures::NV_WRITE_WCDMA_LNA_OFFSET(uint8_t eNvBand, int16_t iOffset
         for (int i = 0; i < 3; ++i)
         {
             const uint8_t offset[] = {static_cast<uint8_t>(offsets[i]), static_cast<uint8_t>(offsets[i] >> 8)};
-            if (!WriteItem(band.offset[i], offset, offsetSize)
-                || (tables[i] != nullptr && !WriteItem(band.vsFreq[i], tables[i], vsFreqSize)))
+            if (!phone.WriteItem(band.offset[i], offset, offsetSize)
+                || (tables[i] != nullptr && !phone.WriteItem(band.vsFreq[i], tables[i], vsFreqSize)))
                 return false;
         }
         return true;
     }
     return false;
 }
-
-}  // namespace tandekor

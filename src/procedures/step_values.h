@@ -50,10 +50,38 @@ struct WordAt
 
 inline uint16_t Shown(const WordAt& value) { return static_cast<uint16_t>(value.bytes[0] | value.bytes[1] << 8); }
 
+// A field of %s for bytes that need not end in a NUL; see ItemText, which is made when the line is written.
 template <size_t mostBytes>
-const char* Shown(const ItemText<mostBytes>& value)
+class ItemOf
 {
-    return value.Text();
-}
+public:
+    explicit ItemOf(const void* itemBytes, int64_t itemLength = mostBytes) : item(itemBytes), length(itemLength) {}
+
+    const void* const item;
+    const int64_t length;
+};
+
+// A value as an argument of a format, for as long as the format is filled.
+template <typename Value>
+class ShownValue
+{
+public:
+    explicit ShownValue(const Value& shown) : value(shown) {}
+    auto Argument() const { return Shown(value); }
+
+private:
+    const Value& value;
+};
+
+template <size_t mostBytes>
+class ShownValue<ItemOf<mostBytes>>
+{
+public:
+    explicit ShownValue(const ItemOf<mostBytes>& shown) : text(shown.item, shown.length) {}
+    const char* Argument() const { return text.Text(); }
+
+private:
+    ItemText<mostBytes> text;
+};
 
 }  // namespace tandekor

@@ -30,8 +30,6 @@ void TellCaller()
 
 }  // namespace
 
-void SetUploadCallback(TandekorCallback callback) { pCallback = callback; }
-
 uint8_t UploadProgressCallback(const uint32_t* record)
 {
     if (record == nullptr)
@@ -64,3 +62,9 @@ uint8_t UploadProgressCallback(const uint32_t* record)
 }
 
 }  // namespace tandekor
+
+// Belongs to the process, whatever the handle is.
+void TANDEKOR_SetCallback(ResourceContext /*hResourceContext*/, TandekorCallback pCallback)
+{
+    tandekor::pCallback = pCallback;
+}

@@ -8,9 +8,6 @@
 namespace tandekor
 {
 
-// Null sets none.
-void SetUploadCallback(TandekorCallback callback);
-
 // What the host library calls, with a record of words: word 0 is the event's code, word 2 its value. Gives 1.
 uint8_t UploadProgressCallback(const uint32_t* record);
 

@@ -52,15 +52,16 @@ struct Argument<T*>
 };
 
 // The values are those of the in-arguments, in their order.
-template <typename... Parameters>
-GuardedCall Call(uint8_t (*function)(ResourceContext, Parameters...), const std::vector<int64_t>& inValues = {})
+template <typename Result, typename... Parameters>
+GuardedCall Call(Result (*function)(ResourceContext, Parameters...), const std::vector<int64_t>& inValues = {})
 {
     return [function, inValues](ResourceContext handle)
     {
         [[maybe_unused]] const int64_t* value = inValues.data();
         std::tuple<Argument<Parameters>...> arguments{Argument<Parameters>(value)...};
         CallResult call;
-        std::apply([&](auto&... each) { call.result = function(handle, each.Value()...); }, arguments);
+        std::apply([&](auto&... each) { call.result = static_cast<uint8_t>(function(handle, each.Value()...)); },
+                   arguments);
         std::apply([&](const auto&... each) { (each.AddTo(call), ...); }, arguments);
         return call;
     };

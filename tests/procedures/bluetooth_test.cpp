@@ -1,5 +1,5 @@
 // The Bluetooth module: continuous wave, its address, its identification.
-#include "procedures/internal_functions.h"
+#include "procedures/procedure_steps.h"
 #include "tests/procedures/step_lines.h"
 
 namespace tandekor::test
@@ -66,7 +66,7 @@ TEST_F(BluetoothTest, AddressTextBecomesUpperCaseAndItsFirstTwelveDigitsCount)
     {
         std::string text = row.text;
         simulator::ForgetLog();
-        EXPECT_EQ(TANDEKOR_FtmBtSetAddr(handle, text.data()), 1);
+        EXPECT_EQ(FtmBtSetAddr(handle, text.data()), 1);
         EXPECT_EQ(text, row.left);
         EXPECT_EQ(ToHex(Phone().bluetooth.address), row.address) << row.text;
         EXPECT_EQ(Log(), Step("QLIB_FTM_BT_SetAddr(iAddr=" + text + ")"));
@@ -74,7 +74,7 @@ TEST_F(BluetoothTest, AddressTextBecomesUpperCaseAndItsFirstTwelveDigitsCount)
     for (std::string text : {"", "789abc12345"})
     {
         simulator::ForgetCalls();
-        EXPECT_EQ(TANDEKOR_FtmBtSetAddr(handle, text.data()), 0);
+        EXPECT_EQ(FtmBtSetAddr(handle, text.data()), 0);
         EXPECT_EQ(Calls(), check);
         EXPECT_EQ(LastLogText(), "\tQLIB_FTM_BT_SetAddr(strlen(szAddr) < 12) - Failure\n");
     }

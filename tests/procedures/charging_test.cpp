@@ -1,5 +1,5 @@
 // The charger, and the supply lines by phone model.
-#include "procedures/internal_functions.h"
+#include "procedures/procedure_steps.h"
 #include "tests/frame/guarded_call.h"
 #include "tests/procedures/step_lines.h"
 
@@ -81,7 +81,7 @@ TEST_F(ChargingTest, LimitsAtTheirEndsAndBeyond)
         SCOPED_TRACE(testing::Message() << row.voltage << ", " << row.current);
         const bool allowed = row.voltageIndex >= 0;
         simulator::ForgetCalls();
-        EXPECT_EQ(TANDEKOR_SpecialSetPmicChargeLimits(handle, row.voltage, row.current), allowed ? 1 : 0);
+        EXPECT_EQ(SpecialSetPmicChargeLimits(handle, row.voltage, row.current), allowed ? 1 : 0);
         const std::string call = "QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS(" + std::to_string(row.currentIndex)
                                  + ", " + std::to_string(row.voltageIndex) + ")";
         EXPECT_EQ(Calls(), (allowed ? check + Lines{call} : check));
@@ -99,9 +99,9 @@ TEST_F(ChargingTest, TransistorsThatCanBeSetAndRead)
         simulator::ForgetCalls();
         simulator::ForgetLog();
         const bool settable = transistor <= 1, readable = transistor == 1;
-        EXPECT_EQ(TANDEKOR_SpecialSetChargeFetState(handle, transistor, 1), settable ? 1 : 0);
+        EXPECT_EQ(SpecialSetChargeFetState(handle, transistor, 1), settable ? 1 : 0);
         EXPECT_EQ(Calls().size(), settable ? 2U : 1U);
-        const CallResult read = Call(TANDEKOR_SpecialGetChargeFetState, {transistor})(handle);
+        const CallResult read = Call(SpecialGetChargeFetState, {transistor})(handle);
         EXPECT_EQ(read.result, readable ? 1 : 0);
         EXPECT_EQ(read.outsUntouched, !readable);
         EXPECT_EQ(Log().size(), (settable ? 2U : 0U) + (readable ? 2U : 0U)) << "refused in silence";
@@ -109,7 +109,7 @@ TEST_F(ChargingTest, TransistorsThatCanBeSetAndRead)
     for (const uint8_t status : Bytes{0, 1, 2, 0x11, 0xFF})
     {
         Phone().charger.switches[1] = status;
-        const CallResult read = Call(TANDEKOR_SpecialGetChargeFetState, {1})(handle);
+        const CallResult read = Call(SpecialGetChargeFetState, {1})(handle);
         EXPECT_EQ(read.outs, std::vector<uint32_t>{status == 1 ? 1U : 0U}) << "only 1 counts as set";
     }
 }

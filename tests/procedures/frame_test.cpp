@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "procedures/internal_functions.h"
+#include "procedures/phone_procedure.h"
 #include "tests/procedures/procedure_test.h"
 
 namespace tandekor::test
@@ -15,10 +15,10 @@ TEST_F(ProcedureFrameTest, CheckAsksThreeTimesAndOnlyTheThirdAnswerCounts)
 {
     simulator::RefuseCall("QLIB_IsPhoneConnected", 1);
     simulator::RefuseCall("QLIB_IsPhoneConnected", 2);
-    EXPECT_EQ(TANDEKOR_CheckConnection(handle), 1);
+    EXPECT_TRUE(PhoneProcedure(handle).CheckConnection());
     EXPECT_EQ(Log(), Texts{});
     simulator::RefuseCall("QLIB_IsPhoneConnected", 3);
-    EXPECT_EQ(TANDEKOR_CheckConnection(handle), 0);
+    EXPECT_FALSE(PhoneProcedure(handle).CheckConnection());
     EXPECT_EQ(Log(), Texts{"\tInvalid handle - Failure\n"});
     EXPECT_EQ(Calls(), Texts{"QLIB_IsPhoneConnected() x6"});
 }

@@ -1,7 +1,7 @@
 // The set-up of a phone: network, roaming, clock, virtual SIM.
 #include <numeric>
 
-#include "procedures/internal_functions.h"
+#include "procedures/procedure_steps.h"
 #include "tests/procedures/chain_lines.h"
 
 namespace tandekor::test
@@ -44,14 +44,14 @@ TEST_F(NetworkTest, EachModeHasItsItems)
     {
         SCOPED_TRACE(mode.mode);
         simulator::ForgetCalls();
-        EXPECT_EQ(TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE(handle, mode.mode), 1);
+        EXPECT_EQ(NV_WRITE_NETWORK_SCAN_MODE(handle, mode.mode), 1);
         const Texts calls{
             "QLIB_IsPhoneConnected() x6", "QLIB_DIAG_NV_WRITE_F(10, " + mode.item10 + ", 2)",
             "QLIB_IsPhoneConnected() x3", "QLIB_DIAG_NV_WRITE_F(441, " + mode.item441 + ", 3)",
             "QLIB_IsPhoneConnected() x3", "QLIB_DIAG_NV_WRITE_F(848, " + mode.item848 + ", 2)",
         };
         EXPECT_EQ(Calls(), calls);
-        EXPECT_EQ(TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL(handle, mode.mode, 0x1234), 1);
+        EXPECT_EQ(NV_WRITE_LAST_GOOD_CHANNEL(handle, mode.mode, 0x1234), 1);
         EXPECT_EQ(Phone().nvItems[1894].size(), 128U);
         EXPECT_EQ(StartOf(1894, 4), mode.channel);
     }
@@ -61,8 +61,8 @@ TEST_F(NetworkTest, Mode1AndModesAbove5AreRefusedInSilence)
 {
     for (const uint8_t mode : std::initializer_list<uint8_t>{1, 6, 255})
     {
-        EXPECT_EQ(TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE(handle, mode), 0);
-        EXPECT_EQ(TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL(handle, mode, 1), 0);
+        EXPECT_EQ(NV_WRITE_NETWORK_SCAN_MODE(handle, mode), 0);
+        EXPECT_EQ(NV_WRITE_LAST_GOOD_CHANNEL(handle, mode, 1), 0);
     }
     EXPECT_EQ(Log(), Texts{});
     EXPECT_EQ(Calls(), Texts{"QLIB_IsPhoneConnected() x18"});
@@ -361,7 +361,7 @@ TEST_F(VirtualSimTest, SimReportsItsStatusInFrontOfTheCommandStatus)
         simulator::ForgetLog();
         Phone().security.status = row.status;
         Phone().security.commandStatus = row.commandStatus;
-        EXPECT_EQ(TANDEKOR_SimSimulation(handle), 0);
+        EXPECT_EQ(SimSimulation(handle), 0);
         EXPECT_EQ(Log(), Chain({activateText, Lines{Failure(row.failure)}}));
     }
     EXPECT_EQ(Run(), 0);

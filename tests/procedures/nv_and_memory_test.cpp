@@ -1,7 +1,7 @@
 // NV items and hardware registers.
 #include "platform/qmsl.h"
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tests/procedures/procedure_test.h"
 
 namespace tandekor::test
@@ -18,10 +18,10 @@ using NvItemTest = ProcedureTest;
 TEST_F(NvItemTest, WriteShowsAddressAndLengthAndFailsByStatusBehindItsSuccessLine)
 {
     const uint8_t data[] = {1, 2, 3};
-    EXPECT_EQ(TANDEKOR_DIAG_NV_WRITE_F(handle, 40000, data, 3), 1);
+    EXPECT_EQ(DIAG_NV_WRITE_F(handle, 40000, data, 3), 1);
     EXPECT_EQ(Calls(), (Texts{"QLIB_IsPhoneConnected() x3", "QLIB_DIAG_NV_WRITE_F(40000, 01 02 03, 3)"}));
     Phone().nvStatus[40000] = 0xFFFE;
-    EXPECT_EQ(TANDEKOR_DIAG_NV_WRITE_F(handle, 40000, data, 3), 0);
+    EXPECT_EQ(DIAG_NV_WRITE_F(handle, 40000, data, 3), 0);
     const std::string result = "\tQLIB_DIAG_NV_WRITE_F(iItemID = 40000, pItemData = " + Address(data)
                                + ", iLength = 3) - Completed successfully\n";
     const Texts log{"\t\tQLIB_DIAG_NV_WRITE_F() start", result, "\t\tQLIB_DIAG_NV_WRITE_F() start", result,
@@ -33,10 +33,10 @@ TEST_F(NvItemTest, ReadLogsTheBareNameAndARefusalStandsUnderBothNames)
 {
     uint8_t data[3] = {};
     Phone().nvItems[10] = {'a', 'b', 'c'};
-    EXPECT_EQ(TANDEKOR_DIAG_NV_READ_F(handle, 10, data, 3), 1);
+    EXPECT_EQ(DIAG_NV_READ_F(handle, 10, data, 3), 1);
     EXPECT_EQ(Bytes(data, data + 3), Ascii("abc"));
     Phone().nvStatus[10] = 5;
-    EXPECT_EQ(TANDEKOR_NV_READ_GSM_RX_REL_OFFSETS(handle, 10, data, 3), 0);
+    EXPECT_EQ(NV_READ_GSM_RX_REL_OFFSETS(handle, 10, data, 3), 0);
     const Texts log{
         "\t\tQLIB_DIAG_NV_READ_F() start",
         "\tQLIB_DIAG_NV_READ_F - Completed successfully\n",
@@ -61,7 +61,7 @@ TEST_F(NvItemTest, TracedReadShowsTheItemAsTextOfAtMostItsLength)
         Phone().nvItems[10] = row.item;
         const auto length = static_cast<int32_t>(row.item.size());
         Bytes data(row.item.size());  // no NUL behind it
-        EXPECT_EQ(TANDEKOR_NV_READ_GSM_RX_REL_OFFSETS(handle, 10, data.data(), length), 1);
+        EXPECT_EQ(NV_READ_GSM_RX_REL_OFFSETS(handle, 10, data.data(), length), 1);
         EXPECT_EQ(data, row.item);
         const std::string start = "\tTANDEKOR_DIAG_NV_READ_F(iItemID = 10, pItemData = " + row.shown + ", iLength = ";
         EXPECT_TRUE(LastLogText().starts_with(start)) << LastLogText();
@@ -70,13 +70,13 @@ TEST_F(NvItemTest, TracedReadShowsTheItemAsTextOfAtMostItsLength)
 
 TEST_F(NvItemTest, FlushShowsItsValuesAsCharactersSoThatAZeroEndsTheText)
 {
-    EXPECT_EQ(TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE(handle), 1);
+    EXPECT_EQ(DIAG_NV_WRITE_FLUSH_BATCH_QUEUE(handle), 1);
     constexpr uint16_t item = 0x0141;  // shown by its low byte, A
     const uint8_t data = 1;
     Phone().nvStatus[item] = 'B';
     QLIB_DIAG_NV_WRITE_SetBatchMode(handle, 1);
-    EXPECT_EQ(TANDEKOR_DIAG_NV_WRITE_F(handle, item, &data, 1), 1) << "only queued";
-    EXPECT_EQ(TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE(handle), 0);
+    EXPECT_EQ(DIAG_NV_WRITE_F(handle, item, &data, 1), 1) << "only queued";
+    EXPECT_EQ(DIAG_NV_WRITE_FLUSH_BATCH_QUEUE(handle), 0);
     const std::string values = "(piLastErrorNvId = A, piLastTotalStatus =\x01, piLastItemStatus = B)";
     const Texts log{
         "\t\tQLIB_DIAG_NV_WRITE_FlushBatchQueue() start",
@@ -110,8 +110,8 @@ TEST_F(RegisterTest, BitsAreSetAndClearedAndReadBackAndOnlyTheEightBitFormChecks
         SetMemory(0x80000081);
         const auto set = [&](uint32_t mask, uint8_t on)
         {
-            return dword ? TANDEKOR_SetBitState_32_Reg(handle, address, mask, on)
-                         : TANDEKOR_SetBitState_8_Reg(handle, address, static_cast<uint8_t>(mask), on);
+            return dword ? SetBitState_32_Reg(handle, address, mask, on)
+                         : SetBitState_8_Reg(handle, address, static_cast<uint8_t>(mask), on);
         };
         EXPECT_EQ(set(0x80000006, 1), 1);
         const std::string form = dword ? "_DWORD_F" : "_F";
@@ -140,32 +140,31 @@ TEST_F(RegisterTest, PokeIsMadeThoughNothingChangesAndOnlyMaskedBitsMustReadBack
     { simulator::BeforeCall(operation, 2, [value] { SetMemory(value); }); };
     SetMemory(0x0F);
     readsBack("QLIB_DIAG_MEMORY_PEEK_DWORD_F", 0xFF00000F);
-    EXPECT_EQ(TANDEKOR_SetBitState_32_Reg(handle, address, 0x0F, 1), 1);
+    EXPECT_EQ(SetBitState_32_Reg(handle, address, 0x0F, 1), 1);
     EXPECT_EQ(simulator::CountCalls("QLIB_DIAG_MEMORY_POKE_DWORD_F"), 1);
     readsBack("QLIB_DIAG_MEMORY_PEEK_DWORD_F", 0x07);
-    EXPECT_EQ(TANDEKOR_SetBitState_32_Reg(handle, address, 0x0F, 1), 0);
+    EXPECT_EQ(SetBitState_32_Reg(handle, address, 0x0F, 1), 0);
     readsBack("QLIB_DIAG_MEMORY_PEEK_F", 0xF0);
-    EXPECT_EQ(TANDEKOR_SetBitState_8_Reg(handle, address, 0x0F, 0), 1);
+    EXPECT_EQ(SetBitState_8_Reg(handle, address, 0x0F, 0), 1);
     simulator::ForgetLog();
     readsBack("QLIB_DIAG_MEMORY_PEEK_F", 0xF8);
-    EXPECT_EQ(TANDEKOR_SetBitState_8_Reg(handle, address, 0x0F, 0), 0);
+    EXPECT_EQ(SetBitState_8_Reg(handle, address, 0x0F, 0), 0);
     EXPECT_EQ(LastLogText(), "\t(_iPokeStorage != _iPeekStorage) - Failure\n");
 }
 
 TEST_F(RegisterTest, BitIsGivenAsACharacterAndOneAbove32IsRefusedWithAPlainRemark)
 {
     SetMemory(0x80000001);
-    PhoneProcedures procedures(handle);
     uint32_t reg = 0;
     std::string bits = "xxxxxx";
     size_t place = 0;
     for (const uint16_t bitNum : std::initializer_list<uint16_t>{0, 1, 30, 31, 32})
-        EXPECT_TRUE(procedures.TK_GetBitState_32_Reg(address, bitNum, &reg, &bits[place++]));
+        EXPECT_TRUE(TK_GetBitState_32_Reg(handle, address, bitNum, &reg, &bits[place++]));
     EXPECT_EQ(simulator::LogTexts().back(),
               "\tQLIB_DIAG_MEMORY_PEEK_DWORD_F(iAddress = 2214592768, iNumItems = 1, pItemArray = " + Address(&reg)
                   + ") - Completed successfully\n");
     simulator::ForgetCalls();
-    EXPECT_FALSE(procedures.TK_GetBitState_32_Reg(address, 33, &reg, &bits[5]));
+    EXPECT_FALSE(TK_GetBitState_32_Reg(handle, address, 33, &reg, &bits[5]));
     EXPECT_EQ(LastLogText(), "\tbitNum over the range: 33");
     EXPECT_EQ(Calls(), Texts{"QLIB_IsPhoneConnected() x3"});
     EXPECT_EQ(bits, "10010x");

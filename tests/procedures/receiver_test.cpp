@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <array>
 
-#include "procedures/internal_functions.h"
+#include "procedures/procedure_steps.h"
 #include "tests/procedures/chain_lines.h"
 
 namespace tandekor::test
@@ -218,9 +218,9 @@ TEST_F(ReceiverTest, EachWcdmaBandHasItsItems)
         SCOPED_TRACE(band.band);
         FreshBench();
         Table gainTable('t', 16), first('1', 16), second('2', 16), third('3', 16);
-        EXPECT_EQ(TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN(handle, band.band, 0x1234, gainTable), 1);
-        EXPECT_EQ(TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET(handle, static_cast<uint8_t>(band.band), 0x0102, first, -2, second,
-                                                     -0x8000, third),
+        EXPECT_EQ(NV_WRITE_WCDMA_VGA_GAIN(handle, band.band, 0x1234, gainTable), 1);
+        EXPECT_EQ(NV_WRITE_WCDMA_LNA_OFFSET(handle, static_cast<uint8_t>(band.band), 0x0102, first, -2, second, -0x8000,
+                                            third),
                   1);
         const Texts writes{
             "QLIB_IsPhoneConnected() x6", WriteCall(band.gain, {0x34, 0x12}),
@@ -244,8 +244,7 @@ TEST_F(ReceiverTest, EachWcdmaBandHasItsItems)
             simulator::ForgetCalls();
             simulator::ForgetLog();
             auto& outs = falls ? fall : rise;
-            const auto readRange
-                = falls ? TANDEKOR_NV_READ_WCDMA_LNA_RANGE_FALL : TANDEKOR_NV_READ_WCDMA_LNA_RANGE_RISE;
+            const auto readRange = falls ? NV_READ_WCDMA_LNA_RANGE_FALL : NV_READ_WCDMA_LNA_RANGE_RISE;
             EXPECT_EQ(readRange(handle, band.band, outs[0].Data(), outs[1].Data(), outs[2].Data()), 1);
             const int(&items)[3] = falls ? band.fall : band.rise;
             const std::string shown = falls ? "f" : "r";
@@ -269,13 +268,13 @@ TEST_F(ReceiverTest, UnknownWcdmaBandIsRefusedInSilenceBehindTheCheck)
     {
         SCOPED_TRACE(band);
         simulator::ForgetCalls();
-        EXPECT_EQ(TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN(handle, band, 1, table), 0);
-        EXPECT_EQ(TANDEKOR_NV_READ_WCDMA_LNA_RANGE_FALL(handle, band, out, out, out), 0);
-        EXPECT_EQ(TANDEKOR_NV_READ_WCDMA_LNA_RANGE_RISE(handle, band, out, out, out), 0);
+        EXPECT_EQ(NV_WRITE_WCDMA_VGA_GAIN(handle, band, 1, table), 0);
+        EXPECT_EQ(NV_READ_WCDMA_LNA_RANGE_FALL(handle, band, out, out, out), 0);
+        EXPECT_EQ(NV_READ_WCDMA_LNA_RANGE_RISE(handle, band, out, out, out), 0);
         EXPECT_EQ(Calls(), Texts{"QLIB_IsPhoneConnected() x9"});
     }
     for (const uint8_t band : std::initializer_list<uint8_t>{0, 3, 7, 255})
-        EXPECT_EQ(TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET(handle, band, 1, table, 2, table, 3, table), 0);
+        EXPECT_EQ(NV_WRITE_WCDMA_LNA_OFFSET(handle, band, 1, table, 2, table, 3, table), 0);
     EXPECT_EQ(Log(), Texts{});
     EXPECT_EQ(simulator::CountCalls("QLIB_DIAG_NV_WRITE_F"), 0);
     EXPECT_EQ(Bytes(out, out + 2), Hex("01 02"));
@@ -286,7 +285,7 @@ TEST_F(ReceiverTest, ThresholdsBehindOneThatCannotBeReadAreNotRead)
     Phone().nvItems[859] = {7, 7};
     Phone().nvItems[519] = {'r', 0};
     Phone().nvStatus[859] = 5;
-    EXPECT_EQ(TANDEKOR_NV_READ_WCDMA_LNA_RANGE_RISE(handle, 4, rise[0].Data(), rise[1].Data(), rise[2].Data()), 0);
+    EXPECT_EQ(NV_READ_WCDMA_LNA_RANGE_RISE(handle, 4, rise[0].Data(), rise[1].Data(), rise[2].Data()), 0);
     EXPECT_EQ(LastLogText(), Failure("TANDEKOR_NV_READ_GSM_RX_REL_OFFSETS(iItemID = 859, cBin3 = UU, iLength = 2)"));
     EXPECT_EQ(simulator::CountCalls("QLIB_DIAG_NV_READ_F"), 2);
 }

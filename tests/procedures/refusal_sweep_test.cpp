@@ -6,8 +6,8 @@
 #include <ostream>
 #include <set>
 
-#include "procedures/internal_functions.h"
-#include "procedures/phone_procedures.h"
+#include "procedures/phone_procedure.h"
+#include "procedures/procedure_steps.h"
 #include "tests/procedures/procedure_test.h"
 
 namespace tandekor::test
@@ -68,22 +68,21 @@ uint8_t WriteRxAdjustmentValues(ResourceContext h)
 uint8_t WriteGsmRxGainRange(ResourceContext h)
 {
     uint8_t t[32] = {};
-    return TANDEKOR_NV_WRITE_GSM_RX_GAIN_RANGE(h, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t);
+    return NV_WRITE_GSM_RX_GAIN_RANGE(h, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t);
 }
 
 void BecomeModel3(ResourceContext) { ThePhone().hardwareId = 3; }
 
 const Procedure procedures[] = {
     {"Start_LOG", [](auto h) { return TANDEKOR_Start_LOG(h, "/dev/null"); }},
-    {"CheckConnection", TANDEKOR_CheckConnection},
-    {"DIAG_NV_WRITE_F", [](auto h) { return TANDEKOR_DIAG_NV_WRITE_F(h, 453, outs.bytes, 1); }},
-    {"DIAG_NV_READ_F", [](auto h) { return TANDEKOR_DIAG_NV_READ_F(h, 453, outs.bytes, 1); }},
-    {"NV_READ_GSM_RX_REL_OFFSETS", [](auto h) { return TANDEKOR_NV_READ_GSM_RX_REL_OFFSETS(h, 453, outs.bytes, 1); }},
-    {"DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE},
-    {"SetBitState_8_Reg", [](auto h) { return TANDEKOR_SetBitState_8_Reg(h, 16, 1, 1); }},
-    {"SetBitState_32_Reg", [](auto h) { return TANDEKOR_SetBitState_32_Reg(h, 16, 1, 1); }},
-    {"TK_GetBitState_32_Reg",
-     [](auto h) { return PhoneProcedures(h).TK_GetBitState_32_Reg(16, 1, &outs.dword, &outs.character); }},
+    {"CheckConnection", [](auto h) { return PhoneProcedure(h).CheckConnection(); }},
+    {"DIAG_NV_WRITE_F", [](auto h) { return DIAG_NV_WRITE_F(h, 453, outs.bytes, 1); }},
+    {"DIAG_NV_READ_F", [](auto h) { return DIAG_NV_READ_F(h, 453, outs.bytes, 1); }},
+    {"NV_READ_GSM_RX_REL_OFFSETS", [](auto h) { return NV_READ_GSM_RX_REL_OFFSETS(h, 453, outs.bytes, 1); }},
+    {"DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", DIAG_NV_WRITE_FLUSH_BATCH_QUEUE},
+    {"SetBitState_8_Reg", [](auto h) { return SetBitState_8_Reg(h, 16, 1, 1); }},
+    {"SetBitState_32_Reg", [](auto h) { return SetBitState_32_Reg(h, 16, 1, 1); }},
+    {"TK_GetBitState_32_Reg", [](auto h) { return TK_GetBitState_32_Reg(h, 16, 1, &outs.dword, &outs.character); }},
     {"ModeChangeResetMobile", [](auto h) { return TANDEKOR_ModeChangeResetMobile(h, 1); }},
     {"ONLINE_TO_FTM", TANDEKOR_ONLINE_TO_FTM, [](auto) { ThePhone().switchesModeDirectly = false; }},
     {"FTM_TO_ONLINE", TANDEKOR_FTM_TO_ONLINE},
@@ -118,14 +117,14 @@ const Procedure procedures[] = {
      [](auto h)
      {
          char address[] = "0123456789AB";
-         return TANDEKOR_FtmBtSetAddr(h, address);
+         return FtmBtSetAddr(h, address);
      }},
     {"Bluetooth_HW_ID",
      [](auto h) { return TANDEKOR_Bluetooth_HW_ID(h, outs.bytes, &outs.word, outs.bytes, outs.bytes, outs.bytes); }},
     {"Charging_Test", [](auto h) { return TANDEKOR_Charging_Test(h, 1, 1, 1, 1, 1, 4000, 10, 1, outs.bytes); }},
-    {"SpecialSetChargeFetState", [](auto h) { return TANDEKOR_SpecialSetChargeFetState(h, 0, 1); }},
-    {"SpecialSetPmicChargeLimits", [](auto h) { return TANDEKOR_SpecialSetPmicChargeLimits(h, 4000, 10); }},
-    {"SpecialGetChargeFetState", [](auto h) { return TANDEKOR_SpecialGetChargeFetState(h, 1, outs.bytes); }},
+    {"SpecialSetChargeFetState", [](auto h) { return SpecialSetChargeFetState(h, 0, 1); }},
+    {"SpecialSetPmicChargeLimits", [](auto h) { return SpecialSetPmicChargeLimits(h, 4000, 10); }},
+    {"SpecialGetChargeFetState", [](auto h) { return SpecialGetChargeFetState(h, 1, outs.bytes); }},
     {"SupplyVoltageTest_A", [](auto h) { return TANDEKOR_SupplyVoltageTest(h, 1, 2, 1, 1); },
      [](auto) { ThePhone().hardwareId = 10; }},
     {"SupplyVoltageTest_B", [](auto h) { return TANDEKOR_SupplyVoltageTest(h, 1, 2, 1, 1); },
@@ -160,18 +159,18 @@ const Procedure procedures[] = {
     {"RX_GSM_Adjust", RxGsmAdjust, GoFtm},
     {"RX_WCDMA_Adjust", RxWcdmaAdjust, GoFtm},
     {"NV_WRITE_WCDMA_VGA_GAIN",
-     [](auto h) { return TANDEKOR_NV_WRITE_WCDMA_VGA_GAIN(h, 4, 1, reinterpret_cast<uint8_t*>(outs.text)); }},
+     [](auto h) { return NV_WRITE_WCDMA_VGA_GAIN(h, 4, 1, reinterpret_cast<uint8_t*>(outs.text)); }},
     {"NV_READ_WCDMA_LNA_RANGE_FALL",
-     [](auto h) { return TANDEKOR_NV_READ_WCDMA_LNA_RANGE_FALL(h, 4, outs.bytes, outs.bytes, outs.bytes); }},
+     [](auto h) { return NV_READ_WCDMA_LNA_RANGE_FALL(h, 4, outs.bytes, outs.bytes, outs.bytes); }},
     {"NV_READ_WCDMA_LNA_RANGE_RISE",
-     [](auto h) { return TANDEKOR_NV_READ_WCDMA_LNA_RANGE_RISE(h, 4, outs.bytes, outs.bytes, outs.bytes); }},
+     [](auto h) { return NV_READ_WCDMA_LNA_RANGE_RISE(h, 4, outs.bytes, outs.bytes, outs.bytes); }},
     {"Write_RX_Adjustment_Values", WriteRxAdjustmentValues},
     {"NV_WRITE_GSM_RX_GAIN_RANGE", WriteGsmRxGainRange},
     {"NV_WRITE_WCDMA_LNA_OFFSET",
      [](auto h)
      {
          uint8_t t[16] = {};
-         return TANDEKOR_NV_WRITE_WCDMA_LNA_OFFSET(h, 4, 1, t, 2, t, 3, t);
+         return NV_WRITE_WCDMA_LNA_OFFSET(h, 4, 1, t, 2, t, 3, t);
      }},
     {"Reduced_Signalling_GSM",
      [](auto h) {
@@ -179,8 +178,8 @@ const Procedure procedures[] = {
                                                 1);
      },
      GoFtm},
-    {"FTM_GSM_BER_StartCall", [](auto h) { return TANDEKOR_FTM_GSM_BER_StartCall(h, 1, 2, 3, 4); }, GoFtm},
-    {"FTM_GSM_BER_StopCall", [](auto h) { return TANDEKOR_FTM_GSM_BER_StopCall(h, 1); }, GoFtm},
+    {"FTM_GSM_BER_StartCall", [](auto h) { return FTM_GSM_BER_StartCall(h, 1, 2, 3, 4); }, GoFtm},
+    {"FTM_GSM_BER_StopCall", [](auto h) { return FTM_GSM_BER_StopCall(h, 1); }, GoFtm},
     {"Reduced_Signalling_WCDMA",
      [](auto h) { return TANDEKOR_Reduced_Signalling_WCDMA(h, 1, 2, outs.bytes, 3, 4, 5, 6, 7, 8, 9); }, GoFtm},
     {"Reduced_Signalling_HSDPA",
@@ -197,7 +196,7 @@ const Procedure procedures[] = {
                                                  outs.bytes, outs.bytes);
      },
      GoFtm},
-    {"FTM_EGPRS_BER_StartCall", [](auto h) { return TANDEKOR_FTM_EGPRS_BER_StartCall(h, 1, 2, 3, 4); }, GoFtm},
+    {"FTM_EGPRS_BER_StartCall", [](auto h) { return FTM_EGPRS_BER_StartCall(h, 1, 2, 3, 4); }, GoFtm},
     {"StartCall", [](auto h) { return TANDEKOR_StartCall(h, 3, outs.bytes); }},
     {"GSM_PA_OutputPower", [](auto h) { return TANDEKOR_GSM_PA_OutputPower(h, 1, 2, 3, 4, 5, 6, 7, 8); }, GoFtm},
     {"Set_TX_PowerOn", [](auto h) { return TANDEKOR_Set_TX_PowerOn(h, 1, 2, 3, 4, 5, 6, 7, 8); }, GoFtm},
@@ -212,11 +211,11 @@ const Procedure procedures[] = {
     {"Virtual_SIM", [](auto h) { return TANDEKOR_Virtual_SIM(h, outs.text, outs.bytes); }},
     {"Virtual_SIM_Forced", [](auto h) { return TANDEKOR_Virtual_SIM(h, outs.text, outs.bytes); },
      [](auto) { ThePhone().switchesModeDirectly = false; }},
-    {"SimSimulation", TANDEKOR_SimSimulation},
+    {"SimSimulation", SimSimulation},
     {"SpecialSetRtcActualTime", TANDEKOR_SpecialSetRtcActualTime},
     {"NetworkAndChannelPreselection", [](auto h) { return TANDEKOR_NetworkAndChannelPreselection(h, 2, 3, 4); }},
-    {"NV_WRITE_NETWORK_SCAN_MODE", [](auto h) { return TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE(h, 2); }},
-    {"NV_WRITE_LAST_GOOD_CHANNEL", [](auto h) { return TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL(h, 2, 3); }},
+    {"NV_WRITE_NETWORK_SCAN_MODE", [](auto h) { return NV_WRITE_NETWORK_SCAN_MODE(h, 2); }},
+    {"NV_WRITE_LAST_GOOD_CHANNEL", [](auto h) { return NV_WRITE_LAST_GOOD_CHANNEL(h, 2, 3); }},
     {"NV_SetRoamingListStatus", [](auto h) { return TANDEKOR_NV_SetRoamingListStatus(h, 1); }},
     {"NVSetAutoAnswerStatus", [](auto h) { return TANDEKOR_NVSetAutoAnswerStatus(h, 1); }},
     {"FTM_SetKeyPadBackLightGPIO", [](auto h) { return TANDEKOR_FTM_SetKeyPadBackLightGPIO(h, 7, 1); }},

@@ -1,7 +1,7 @@
 // Test calls: each chain whole, with a value of its own for every argument.
 #include <functional>
 
-#include "procedures/internal_functions.h"
+#include "procedures/procedure_steps.h"
 #include "tests/procedures/chain_lines.h"
 
 namespace tandekor::test
