@@ -10,7 +10,7 @@ namespace
 class ObexSessionTest : public ObexTest
 {
 protected:
-    // A file operation without a name only opens a session, walks, and closes it.
+    // A file operation without a name only opens a session, goes to the folder, and closes it.
     uint8_t Walk(const std::string& folder) { return TANDEKOR_OBEX_DeleteFile(handle, folder.c_str(), "", &error); }
 
     void ExpectConnect(const std::string& reply, bool good, const char* what)

@@ -234,7 +234,7 @@ TEST_F(NativeHostFileTest, NothingButAPlainFileIsOpened)
         EXPECT_EQ(ReadFromFile(special, 0, bytes, 4), 0U);
         EXPECT_EQ(opens, 0) << special;
     }
-    // The file turns into a FIFO when it has just been looked at.
+    // The file turns into a FIFO right after its check.
     statFindsNothing = true;
     EXPECT_FALSE(OverwriteFile(path, "ab", 2));
     EXPECT_EQ(::read(reader, bytes, 4), 0);
