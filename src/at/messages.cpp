@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "channels/at_channel.h"
+#include "at/command.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -24,7 +23,7 @@ struct MessageLine
     uint32_t length;
 };
 
-// Reads from behind the colon and blank of a line to its end. False if the reply ends in front of the last field.
+// Reads a line, starting after its colon and space. False if the reply ends before the last field.
 bool ReadMessageLine(ReplyCursor& reply, MessageLine* line)
 {
     line->index = reply.Current() - uint32_t{'0'};
@@ -45,20 +44,20 @@ bool ReadMessageLine(ReplyCursor& reply, MessageLine* line)
     return true;
 }
 
-}  // namespace
-
-// A message whose line the reply's end cuts does not count.
-uint8_t AtChannel::ListMessages(const char* name, const char* command, char marker, uint8_t iFilter, uint32_t* aiIndex,
-                                uint32_t* aiStat, uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024],
-                                uint32_t* piCount, uint16_t* pStatus)
+// A message is dropped if the reply ends within its line.
+uint8_t ListMessages(ResourceContext hResourceContext, const char* name, const char* command, char marker,
+                     uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat, uint32_t* aiAlpha, uint32_t* aiLength,
+                     char (*asData)[1024], uint32_t* piCount, uint16_t* pStatus)
 {
-    StartNamed(name, command);
-    AddFirstDigit(iFilter == allMessages ? 0u : iFilter);
+    AtChannel* const at = Start(hResourceContext, name, command);
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iFilter == allMessages ? 0u : iFilter);
     *piCount = 0;
-    if (!SendCommand(pStatus))
+    if (!at->SendCommand(pStatus))
         return 0;
 
-    ReplyCursor reply = CursorAt(1);  // a line end at position 0 does not count
+    ReplyCursor reply = at->CursorAt(1);  // a line end at position 0 does not count
     uint32_t count = 0;
     for (;; ++count)
     {
@@ -82,34 +81,22 @@ uint8_t AtChannel::ListMessages(const char* name, const char* command, char mark
     return 1;
 }
 
-uint8_t AtChannel::CMGL(uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat, uint32_t* aiAlpha, uint32_t* aiLength,
-                        char (*asData)[1024], uint32_t* piCount, uint16_t* pStatus)
+// Positions count from the first byte of the reply here, with or without echo, and the reply is read even if the
+// exchange failed. The text starts five bytes after the first comma, however long the length field is.
+uint8_t ReadMessage(ResourceContext hResourceContext, const char* name, const char* command, uint16_t iIndex,
+                    uint16_t iMaxLength, uint16_t* piLength, uint8_t* piStat, char* sData, uint16_t* pStatus)
 {
-    return ListMessages("TANDEKOR_AT_CMGL", "+CMGL=", '+', iFilter, aiIndex, aiStat, aiAlpha, aiLength, asData, piCount,
-                        pStatus);
-}
-
-uint8_t AtChannel::SMGL(uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat, uint32_t* aiAlpha, uint32_t* aiLength,
-                        char (*asData)[1024], uint32_t* piCount, uint16_t* pStatus)
-{
-    return ListMessages("TANDEKOR_AT_SMGL", "^SMGL=", '^', iFilter, aiIndex, aiStat, aiAlpha, aiLength, asData, piCount,
-                        pStatus);
-}
-
-// Positions count from the reply's first byte here, with or without echo, and the reply is read even if the exchange
-// failed. The text stands five places behind the first comma's, whatever the length field's digits are.
-uint8_t AtChannel::ReadMessage(const char* name, const char* command, uint16_t iIndex, uint16_t iMaxLength,
-                               uint16_t* piLength, uint8_t* piStat, char* sData, uint16_t* pStatus)
-{
-    StartNamed(name, command);
+    AtChannel* const at = Start(hResourceContext, name, command);
+    if (at == nullptr)
+        return 0;
     if (iIndex <= highestIndex)
-        AddDecimal(iIndex);
-    const bool exchanged = SendCommand(pStatus);
+        at->AddDecimal(iIndex);
+    const bool exchanged = at->SendCommand(pStatus);
 
-    const uint8_t last = packetBuffer.ResponseAt(packetBuffer.ResponseLength() - 1);
+    const uint8_t last = at->Reply().ResponseAt(at->Reply().ResponseLength() - 1);
     if (last != 'K' && last != 'k')
         return exchanged;
-    ReplyCursor reply(packetBuffer, 0);
+    ReplyCursor reply(at->Reply(), 0);
     reply.GoToFirst([](uint8_t current) { return current == ',' || current == '\0'; });
     if (reply.AtEnd() || reply.Index() == 0)
     {
@@ -118,44 +105,62 @@ uint8_t AtChannel::ReadMessage(const char* name, const char* command, uint16_t i
         sData[0] = '\0';
         return exchanged;
     }
-    *piStat = packetBuffer.ResponseAt(reply.Index() - 1);
-    ReplyCursor lengthField(packetBuffer, reply.Index() + 2);
+    *piStat = at->Reply().ResponseAt(reply.Index() - 1);
+    ReplyCursor lengthField(at->Reply(), reply.Index() + 2);
     *piLength = static_cast<uint16_t>(lengthField.Digits());
 
     const uint16_t size = std::min(iMaxLength, *piLength);
     if (size > 0)
     {
         const int start = reply.Index() + 5;
-        const int left = std::max(packetBuffer.ResponseLength() - start, 0);
+        const int left = std::max(at->Reply().ResponseLength() - start, 0);
         const auto copied = static_cast<size_t>(std::min(size - 1, left));
-        std::memcpy(sData, packetBuffer.ResponseFrom(start), copied);
+        std::memcpy(sData, at->Reply().ResponseFrom(start), copied);
         sData[copied] = '\0';
     }
     return exchanged;
 }
 
-uint8_t AtChannel::Set_CMGR(uint16_t iIndex, uint16_t iMaxLength, uint16_t* piLength, uint8_t* piStat, char* sData,
-                            uint16_t* pStatus)
+}  // namespace
+
+uint8_t TANDEKOR_AT_CMGL(ResourceContext hResourceContext, uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat,
+                         uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024], uint32_t* piCount,
+                         uint16_t* pStatus)
 {
-    return ReadMessage("TANDEKOR_AT_Set_CMGR", "+CMGR=", iIndex, iMaxLength, piLength, piStat, sData, pStatus);
+    return ListMessages(hResourceContext, __func__, "+CMGL=", '+', iFilter, aiIndex, aiStat, aiAlpha, aiLength, asData,
+                        piCount, pStatus);
 }
 
-uint8_t AtChannel::Set_SMGR(uint16_t iIndex, uint16_t iMaxLength, uint16_t* piLength, uint8_t* piStat, char* sData,
-                            uint16_t* pStatus)
+uint8_t TANDEKOR_AT_SMGL(ResourceContext hResourceContext, uint8_t iFilter, uint32_t* aiIndex, uint32_t* aiStat,
+                         uint32_t* aiAlpha, uint32_t* aiLength, char (*asData)[1024], uint32_t* piCount,
+                         uint16_t* pStatus)
 {
-    return ReadMessage("TANDEKOR_AT_Set_SMGR", "^SMGR=", iIndex, iMaxLength, piLength, piStat, sData, pStatus);
+    return ListMessages(hResourceContext, __func__, "^SMGL=", '^', iFilter, aiIndex, aiStat, aiAlpha, aiLength, asData,
+                        piCount, pStatus);
 }
 
-uint8_t AtChannel::CMSS(uint8_t iIndex, const char* sAddress, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CMGR(ResourceContext hResourceContext, uint16_t iIndex, uint16_t iMaxLength, uint16_t* piLength,
+                             uint8_t* piStat, char* sData, uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_CMSS", "+CMSS=");
-    AddFirstDigit(iIndex);
+    return ReadMessage(hResourceContext, __func__, "+CMGR=", iIndex, iMaxLength, piLength, piStat, sData, pStatus);
+}
+
+uint8_t TANDEKOR_AT_Set_SMGR(ResourceContext hResourceContext, uint16_t iIndex, uint16_t iMaxLength, uint16_t* piLength,
+                             uint8_t* piStat, char* sData, uint16_t* pStatus)
+{
+    return ReadMessage(hResourceContext, __func__, "^SMGR=", iIndex, iMaxLength, piLength, piStat, sData, pStatus);
+}
+
+uint8_t TANDEKOR_AT_CMSS(ResourceContext hResourceContext, uint8_t iIndex, const char* sAddress, uint16_t* pStatus)
+{
+    AtChannel* const at = Start(hResourceContext, __func__, "+CMSS=");
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iIndex);
     if (sAddress[0] != '-')
     {
-        AddCharacter(',');
-        AddQuoted(sAddress, 12);
+        at->AddCharacter(',');
+        at->AddQuoted(sAddress, 12);
     }
-    return SendCommand(pStatus);
+    return at->SendCommand(pStatus);
 }
-
-}  // namespace tandekor

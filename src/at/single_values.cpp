@@ -1,9 +1,8 @@
 // Commands that set or read one small number, and the three that are sent without a value.
-#include "channels/at_channel.h"
+#include "at/command.h"
 #include "core/text_log.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
@@ -14,360 +13,398 @@ constexpr uint32_t switchOffTimeMs = 12000;
 
 // --- commands without a value
 
-uint8_t AtChannel::Switch_2_OBEX(uint16_t* pStatus) { return Query("TANDEKOR_AT_2_OBEX", "^SQWE=3", pStatus); }
+uint8_t TANDEKOR_AT_2_OBEX(ResourceContext hResourceContext, uint16_t* pStatus)
+{
+    return Forward(At(hResourceContext), &AtChannel::Query, __func__, "^SQWE=3", pStatus);
+}
 
-uint8_t AtChannel::CRMP(uint16_t* pStatus) { return Query("TANDEKOR_AT_CRMP", "+CRMP", pStatus); }
+uint8_t TANDEKOR_AT_CRMP(ResourceContext hResourceContext, uint16_t* pStatus)
+{
+    return Forward(At(hResourceContext), &AtChannel::Query, __func__, "+CRMP", pStatus);
+}
 
-uint8_t AtChannel::CHUP(uint16_t* pStatus) { return Query("TANDEKOR_AT_CHUP", "+CHUP", pStatus); }
+uint8_t TANDEKOR_AT_CHUP(ResourceContext hResourceContext, uint16_t* pStatus)
+{
+    return Forward(At(hResourceContext), &AtChannel::Query, __func__, "+CHUP", pStatus);
+}
 
 // --- query of one digit
 
-uint8_t AtChannel::Get_CMUT(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CMUT(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CMUT", "+CMUT?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CMUT?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CALM(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CALM(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CALM", "+CALM?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CALM?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CRSL(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CRSL(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CRSL", "+CRSL?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CRSL?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CLVL(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CLVL(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CLVL", "+CLVL?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CLVL?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CTZU(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CTZU(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CTZU", "+CTZU?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CTZU?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CTZR(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CTZR(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CTZR", "+CTZR?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CTZR?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CMEC(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CMEC(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CMEC", "+CMEC?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CMEC?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CLIP(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CLIP(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CLIP", "+CLIP?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CLIP?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_CAOC(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CAOC(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_CAOC", "+CAOC?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "+CAOC?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_SLNG(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_SLNG(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_SLNG", "^SLNG?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "^SLNG?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_SNFS(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_SNFS(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_SNFS", "^SNFS?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "^SNFS?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_SNFV(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_SNFV(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_SNFV", "^SNFV?", 18, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "^SNFV?", 18, piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_SICO(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_SICO(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    return QueryDigit("TANDEKOR_AT_Get_SICO", "^SICO?", 21, piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryDigit, __func__, "^SICO?", 21, piValue, pStatus);
 }
 
 // --- setting of one value, shown in the log
 
-uint8_t AtChannel::Set_CMUT(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CMUT(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CMUT", "+CMUT=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CMUT=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CALM(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CALM(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CALM", "+CALM=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CALM=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CRSL(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CRSL(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CRSL", "+CRSL=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CRSL=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CLVL(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CLVL(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CLVL", "+CLVL=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CLVL=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CTZU(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CTZU(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CTZU", "+CTZU=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CTZU=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CTZR(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CTZR(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CTZR", "+CTZR=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CTZR=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CMEC(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CMEC(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CMEC", "+CMEC=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CMEC=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CLIP(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CLIP(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CLIP", "+CLIP=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CLIP=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_COLP(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_COLP(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_COLP", "+COLP=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+COLP=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CAOC(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CAOC(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_CAOC", "+CAOC=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "+CAOC=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_SACM(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SACM(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_SACM", "^SACM=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "^SACM=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_SLNG(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SLNG(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_SLNG", "^SLNG=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "^SLNG=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_SNFS(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SNFS(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_SNFS", "^SNFS=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "^SNFS=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_SNFV(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SNFV(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_SNFV", "^SNFV=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "^SNFV=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_SICO(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SICO(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigit("TANDEKOR_AT_Set_SICO", "^SICO=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigit, __func__, "^SICO=", iValue, pStatus);
 }
 
 // --- setting of one value, not shown in the log
 
-uint8_t AtChannel::Set_CREG(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CREG(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_CREG", "+CREG=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__, "+CREG=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CBST(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CBST(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_CBST", "+CBST=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__, "+CBST=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CMEE(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CMEE(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_CMEE", "+CMEE=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__, "+CMEE=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_CR(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CR(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_CR", "+CR=", iValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__, "+CR=", iValue, pStatus);
 }
 
-uint8_t AtChannel::Set_SMSO(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SMSO(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_SMSO", "^SMSO=", iValue, pStatus, switchOffTimeMs);
+    AtChannel* const at = Start(hResourceContext, __func__, "^SMSO=");
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iValue);
+    return at->SendCommand(pStatus, switchOffTimeMs);
 }
 
-uint8_t AtChannel::CHLD(int32_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_CHLD(ResourceContext hResourceContext, int32_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_CHLD", "+CHLD=", static_cast<uint32_t>(iValue), pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__,
+                   "+CHLD=", static_cast<uint32_t>(iValue), pStatus);
 }
 
-uint8_t AtChannel::Set_SCKS(int32_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SCKS(ResourceContext hResourceContext, int32_t iValue, uint16_t* pStatus)
 {
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_SCKS", "^SCKS=", static_cast<uint32_t>(iValue), pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__,
+                   "^SCKS=", static_cast<uint32_t>(iValue), pStatus);
 }
 
 // --- two values
 
-uint8_t AtChannel::Get_COLP(uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_COLP(ResourceContext hResourceContext, uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
 {
-    return QueryTwoDigits("TANDEKOR_AT_Get_COLP", "+COLP?", 18, 20, piFirst, piSecond, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryTwoDigits, __func__, "+COLP?", 18, 20, piFirst, piSecond,
+                   pStatus);
 }
 
-uint8_t AtChannel::Get_CSSN(uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CSSN(ResourceContext hResourceContext, uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
 {
-    return QueryTwoDigits("TANDEKOR_AT_Get_CSSN", "+CSSN?", 18, 20, piFirst, piSecond, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryTwoDigits, __func__, "+CSSN?", 18, 20, piFirst, piSecond,
+                   pStatus);
 }
 
-uint8_t AtChannel::Get_CGEREP(uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CGEREP(ResourceContext hResourceContext, uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
 {
-    return QueryTwoDigits("TANDEKOR_AT_Get_CGEREP", "+CGEREP?", 22, 24, piFirst, piSecond, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryTwoDigits, __func__, "+CGEREP?", 22, 24, piFirst, piSecond,
+                   pStatus);
 }
 
-uint8_t AtChannel::Set_CSSN(uint8_t iFirst, uint8_t iSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CSSN(ResourceContext hResourceContext, uint8_t iFirst, uint8_t iSecond, uint16_t* pStatus)
 {
-    return SetOneOrTwo("TANDEKOR_AT_Set_CSSN", "+CSSN=", iFirst, 1, iSecond, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetOneOrTwo, __func__, "+CSSN=", iFirst, 1, iSecond, pStatus);
 }
 
-uint8_t AtChannel::Set_CGEREP(uint8_t iFirst, uint8_t iSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CGEREP(ResourceContext hResourceContext, uint8_t iFirst, uint8_t iSecond, uint16_t* pStatus)
 {
-    return SetOneOrTwo("TANDEKOR_AT_Set_CGEREP", "+CGEREP=", iFirst, 1, iSecond, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetOneOrTwo, __func__, "+CGEREP=", iFirst, 1, iSecond, pStatus);
 }
 
-uint8_t AtChannel::Set_SRMP(uint8_t iFirst, uint8_t iSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SRMP(ResourceContext hResourceContext, uint8_t iFirst, uint8_t iSecond, uint16_t* pStatus)
 {
-    return SetOneOrTwo("TANDEKOR_AT_Set_SRMP", "^SRMP=", iFirst, 2, iSecond, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetOneOrTwo, __func__, "^SRMP=", iFirst, 2, iSecond, pStatus);
 }
 
 // --- characters as they stand in the reply
 
-uint8_t AtChannel::Get_CGATT(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CGATT(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CGATT", "+CGATT?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CGATT?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piValue = CharacterAt(20);
+    *piValue = at->CharacterAt(20);
     return 1;
 }
 
-uint8_t AtChannel::Get_CGREG(uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CGREG(ResourceContext hResourceContext, uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CGREG", "+CGREG?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CGREG?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piFirst = CharacterAt(20);
-    *piSecond = CharacterAt(22);
+    *piFirst = at->CharacterAt(20);
+    *piSecond = at->CharacterAt(22);
     return 1;
 }
 
-uint8_t AtChannel::Get_CR(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CR(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CR", "+CR?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CR?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piValue = CharacterAt(14);
+    *piValue = at->CharacterAt(14);
     return 1;
 }
 
-uint8_t AtChannel::Get_CMEE(uint32_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CMEE(ResourceContext hResourceContext, uint32_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CMEE", "+CMEE?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CMEE?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piValue = CharacterAt(18);
+    *piValue = at->CharacterAt(18);
     return 1;
 }
 
-uint8_t AtChannel::Get_CCWA(uint32_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CCWA(ResourceContext hResourceContext, uint32_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CCWA", "+CCWA?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CCWA?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piValue = CharacterAt(18) - uint32_t{'0'};
+    *piValue = at->CharacterAt(18) - uint32_t{'0'};
     return 1;
 }
 
-// --- a digit looked for from the reply's end
+// --- a digit searched from the end of the reply
 
-uint8_t AtChannel::Get_CPAS(uint32_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CPAS(ResourceContext hResourceContext, uint32_t* piValue, uint16_t* pStatus)
 {
-    return QueryLastDigit("TANDEKOR_AT_Get_CPAS", "+CPAS", piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryLastDigit, __func__, "+CPAS", piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_SCKA(uint32_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_SCKA(ResourceContext hResourceContext, uint32_t* piValue, uint16_t* pStatus)
 {
-    return QueryLastDigit("TANDEKOR_AT_Get_SCKA", "^SCKA?", piValue, pStatus);
+    return Forward(At(hResourceContext), &AtChannel::QueryLastDigit, __func__, "^SCKA?", piValue, pStatus);
 }
 
-uint8_t AtChannel::Get_SCKS(uint32_t* piFirst, uint32_t* piSecond, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_SCKS(ResourceContext hResourceContext, uint32_t* piFirst, uint32_t* piSecond, uint16_t* pStatus)
 {
-    if (!QueryLastDigit("TANDEKOR_AT_Get_SCKS", "^SCKS?", piSecond, pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "^SCKS?", pStatus);
+    if (at == nullptr)
         return 0;
-    const int index = IndexOfLastDigit() - 3;
+    const int index = at->IndexOfLastDigit();
     if (index >= 0)
-        *piFirst = packetBuffer.ResponseAt(index) - uint32_t{'0'};
+        *piSecond = at->Reply().ResponseAt(index) - uint32_t{'0'};
+    if (index >= 3)
+        *piFirst = at->Reply().ResponseAt(index - 3) - uint32_t{'0'};
     return 1;
 }
 
 // --- values with a rule of their own
 
-uint8_t AtChannel::Get_CVIB(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CVIB(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CVIB", "+CVIB?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CVIB?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piValue = DigitAt(18);
-    if (CharacterAt(19) != '\r')
-        *piValue = static_cast<uint8_t>(DigitAt(18) * 10 + DigitAt(19));
+    *piValue = at->DigitAt(18);
+    if (at->CharacterAt(19) != '\r')
+        *piValue = static_cast<uint8_t>(at->DigitAt(18) * 10 + at->DigitAt(19));
     return 1;
 }
 
-// The value is not the number of the command: 1, 2 stand for 0, 1, and the values from 3 on for 16 and up.
-uint8_t AtChannel::Set_CVIB(uint8_t iValue, uint16_t* pStatus)
+// The number sent is not the value: 0 and 1 are sent for 1 and 2, and 16 and up for 3 and up.
+uint8_t TANDEKOR_AT_Set_CVIB(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
+    AtChannel* const at = At(hResourceContext);
+    if (at == nullptr)
+        return 0;
     Trace(hResourceContext, "TANDEKOR_AT_Set_CVIB(%d)", iValue);
-    StartCommand("+CVIB=");
+    at->StartCommand("+CVIB=");
     if (iValue < 3)
-        AddFirstDigit(static_cast<uint8_t>(iValue - 1));
+        at->AddFirstDigit(static_cast<uint8_t>(iValue - 1));
     else
-        AddDecimal(static_cast<uint8_t>(iValue + 13), 2);
-    return SendCommand(pStatus);
+        at->AddDecimal(static_cast<uint8_t>(iValue + 13), 2);
+    return at->SendCommand(pStatus);
 }
 
-uint8_t AtChannel::Set_SKPD(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_SKPD(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
+    AtChannel* const at = At(hResourceContext);
+    if (at == nullptr)
+        return 0;
     Trace(hResourceContext, "TANDEKOR_AT_Set_SKPD(%d)", iValue);
-    StartCommand("^SKPD=");
-    AddDecimal(iValue);
-    return SendCommand(pStatus);
+    at->StartCommand("^SKPD=");
+    at->AddDecimal(iValue);
+    return at->SendCommand(pStatus);
 }
 
-uint8_t AtChannel::Set_CGATT(int32_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CGATT(ResourceContext hResourceContext, int32_t iValue, uint16_t* pStatus)
 {
     if (iValue == -1)
-        return Query("TANDEKOR_AT_Set_CGATT", "+CGATT", pStatus);
-    return SetFirstDigitUnshown("TANDEKOR_AT_Set_CGATT", "+CGATT=", static_cast<uint32_t>(iValue), pStatus);
+        return Forward(At(hResourceContext), &AtChannel::Query, __func__, "+CGATT", pStatus);
+    return Forward(At(hResourceContext), &AtChannel::SetFirstDigitUnshown, __func__,
+                   "+CGATT=", static_cast<uint32_t>(iValue), pStatus);
 }
 
-uint8_t AtChannel::Get_WS46(uint8_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_WS46(ResourceContext hResourceContext, uint8_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_WS46", "+WS46?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+WS46?", pStatus);
+    if (at == nullptr)
         return 0;
-    if (IsDigit(CharacterAt(11)))
+    if (IsDigit(at->CharacterAt(11)))
     {
-        *piValue = DigitAt(11);
-        if (IsDigit(CharacterAt(12)))
-            *piValue = static_cast<uint8_t>(DigitAt(11) * 10 + DigitAt(12));
+        *piValue = at->DigitAt(11);
+        if (IsDigit(at->CharacterAt(12)))
+            *piValue = static_cast<uint8_t>(at->DigitAt(11) * 10 + at->DigitAt(12));
     }
     return 1;
 }
 
-uint8_t AtChannel::Set_WS46(uint8_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_WS46(ResourceContext hResourceContext, uint8_t iValue, uint16_t* pStatus)
 {
     if (iValue == 255)
-        return Query("TANDEKOR_AT_Set_WS46", "+WS46", pStatus);
-    StartNamed("TANDEKOR_AT_Set_WS46", "+WS46=");
-    AddFirstDigit(iValue / 10u);
-    AddFirstDigit(iValue % 10u);
-    return SendCommand(pStatus);
+        return Forward(At(hResourceContext), &AtChannel::Query, __func__, "+WS46", pStatus);
+    AtChannel* const at = Start(hResourceContext, __func__, "+WS46=");
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iValue / 10u);
+    at->AddFirstDigit(iValue % 10u);
+    return at->SendCommand(pStatus);
 }
 
-uint8_t AtChannel::Get_IPR(uint32_t* piValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_IPR(ResourceContext hResourceContext, uint32_t* piValue, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_IPR", "+IPR?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+IPR?", pStatus);
+    if (at == nullptr)
         return 0;
     *piValue = 0;
-    for (int index = IndexOf(15); index < packetBuffer.ResponseLength(); ++index)
+    for (int index = at->IndexOf(15); index < at->Reply().ResponseLength(); ++index)
     {
-        const uint8_t character = packetBuffer.ResponseAt(index);
+        const uint8_t character = at->Reply().ResponseAt(index);
         if (character == '\r')
             break;
         if (IsDigit(character))
@@ -376,11 +413,11 @@ uint8_t AtChannel::Get_IPR(uint32_t* piValue, uint16_t* pStatus)
     return 1;
 }
 
-uint8_t AtChannel::Set_IPR(int32_t iValue, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_IPR(ResourceContext hResourceContext, int32_t iValue, uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_Set_IPR", "+IPR=");
-    AddDecimal(static_cast<uint32_t>(iValue));
-    return SendCommand(pStatus);
+    AtChannel* const at = Start(hResourceContext, __func__, "+IPR=");
+    if (at == nullptr)
+        return 0;
+    at->AddDecimal(static_cast<uint32_t>(iValue));
+    return at->SendCommand(pStatus);
 }
-
-}  // namespace tandekor

@@ -1,22 +1,23 @@
-// Commands with text, quoted fields or parameters that may be left out: keypad, locks, PIN, forwarding, waiting,
+// Commands with texts, quoted fields or optional parameters: keypad, locks, PIN, forwarding, waiting,
 // service centre, cell broadcast, character set, restricted SIM access.
-#include "channels/at_channel.h"
+#include <algorithm>
+
+#include "at/command.h"
 #include "core/text_log.h"
 
-namespace tandekor
-{
+using namespace tandekor;
 
 namespace
 {
 
-// A parameter that the caller leaves out.
+// Whether the caller leaves the parameter out.
 bool IsAbsent(const char* text) { return text[0] == '-'; }
 bool IsAbsent(const uint8_t* bytes) { return bytes[0] == '-'; }
 bool IsAbsent(uint8_t value) { return value == UINT8_MAX; }
 bool IsAbsent(uint16_t value) { return value == UINT16_MAX; }
 bool IsAbsent(int32_t value) { return value == -1; }
 
-// In the other direction: a field that the reply does not hold.
+// What the caller gets for a field that the reply does not hold.
 constexpr char absentText = '-';  // no NUL follows
 constexpr uint32_t absentNumber = UINT32_MAX;
 
@@ -28,51 +29,37 @@ constexpr uint32_t setForwardingTimeMs = 25000;
 constexpr uint32_t getForwardingTimeMs = 10000;
 constexpr uint32_t callWaitingTimeMs = 20000;
 
-}  // namespace
-
-uint8_t AtChannel::Set_CKPD(const char* sKeys, uint16_t iTime, uint16_t iPause, uint16_t* pStatus)
+uint8_t SetLock(ResourceContext hResourceContext, const char* name, const char* command, const char* sFac,
+                uint8_t iMode, const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus)
 {
-    Trace(hResourceContext, "TANDEKOR_AT_Set_CKPD(Keys: %s, Time: %d, Pause: %d)", sKeys, iTime, iPause);
-    StartCommand("+CKPD=");
-    AddText(sKeys);
-    if (!IsAbsent(iTime))
-    {
-        AddCommaAndDecimal(iTime);
-        if (!IsAbsent(iPause))
-            AddCommaAndDecimal(iPause);
-    }
-    return SendCommand(pStatus);
-}
-
-// --- facility locks
-
-uint8_t AtChannel::SetLock(const char* name, const char* command, const char* sFac, uint8_t iMode,
-                           const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus)
-{
-    StartNamed(name, command);
-    AddQuoted(sFac, 2);
-    AddCommaAndFirstDigit(iMode);
+    AtChannel* const at = Start(hResourceContext, name, command);
+    if (at == nullptr)
+        return 0;
+    at->AddQuoted(sFac, 2);
+    at->AddCommaAndFirstDigit(iMode);
     if (iMode != queryMode && !IsAbsent(pPassword))
     {
-        AddCharacter(',');
+        at->AddCharacter(',');
         for (int i = 0; i < 4; ++i)
-            AddFirstDigit(pPassword[i]);
+            at->AddFirstDigit(pPassword[i]);
         if (!IsAbsent(iClass))
-            AddCommaAndDecimal(static_cast<uint32_t>(iClass));
+            at->AddCommaAndDecimal(static_cast<uint32_t>(iClass));
     }
-    return SendCommand(pStatus, setLockTimeMs);
+    return at->SendCommand(pStatus, setLockTimeMs);
 }
 
-uint8_t AtChannel::GetLock(const char* name, const char* command, const char* sFac, uint8_t* aState, uint32_t* aiClass,
-                           uint32_t* piCount, uint16_t* pStatus)
+uint8_t GetLock(ResourceContext hResourceContext, const char* name, const char* command, const char* sFac,
+                uint8_t* aState, uint32_t* aiClass, uint32_t* piCount, uint16_t* pStatus)
 {
-    StartNamed(name, command);
-    AddQuoted(sFac, 2);
-    AddCommaAndFirstDigit(queryMode);
-    if (!SendCommand(pStatus, getLockTimeMs))
+    AtChannel* const at = Start(hResourceContext, name, command);
+    if (at == nullptr)
+        return 0;
+    at->AddQuoted(sFac, 2);
+    at->AddCommaAndFirstDigit(queryMode);
+    if (!at->SendCommand(pStatus, getLockTimeMs))
         return 0;
 
-    ReplyCursor reply = CursorAt(18);
+    ReplyCursor reply = at->CursorAt(18);
     uint32_t count = 0;
     for (;; ++count)
     {
@@ -97,79 +84,7 @@ uint8_t AtChannel::GetLock(const char* name, const char* command, const char* sF
     return 1;
 }
 
-uint8_t AtChannel::Set_CLCK(const char* sFac, uint8_t iMode, const uint8_t* pPassword, int32_t iClass,
-                            uint16_t* pStatus)
-{
-    return SetLock("TANDEKOR_AT_Set_CLCK", "+CLCK=", sFac, iMode, pPassword, iClass, pStatus);
-}
-
-uint8_t AtChannel::Set_SLCK(const char* sFac, uint8_t iMode, const uint8_t* pPassword, int32_t iClass,
-                            uint16_t* pStatus)
-{
-    return SetLock("TANDEKOR_AT_Set_SLCK", "^SLCK=", sFac, iMode, pPassword, iClass, pStatus);
-}
-
-uint8_t AtChannel::Get_CLCK(const char* sFac, uint8_t* aState, uint32_t* aiClass, uint32_t* piCount, uint16_t* pStatus)
-{
-    return GetLock("TANDEKOR_AT_Get_CLCK", "+CLCK=", sFac, aState, aiClass, piCount, pStatus);
-}
-
-uint8_t AtChannel::Get_SLCK(const char* sFac, uint8_t* aState, uint32_t* aiClass, uint32_t* piCount, uint16_t* pStatus)
-{
-    return GetLock("TANDEKOR_AT_Get_SLCK", "^SLCK=", sFac, aState, aiClass, piCount, pStatus);
-}
-
-// --- PIN
-
-uint8_t AtChannel::Get_CPIN(char* sCode, uint16_t* pStatus)
-{
-    if (!Query("TANDEKOR_AT_Get_CPIN", "+CPIN?", pStatus))
-        return 0;
-    CopyTextAt(18, '\r', sCode, 16);
-    return 1;
-}
-
-// Each character of the PIN goes out as the first digit of its value less 0x30: a digit as itself.
-uint8_t AtChannel::Set_CPIN(const char* sPin, const char* sNewPin, uint16_t* pStatus)
-{
-    StartNamed("TANDEKOR_AT_Set_CPIN", "+CPIN=\"");
-    for (; *sPin != '\0'; ++sPin)
-        AddFirstDigit(static_cast<uint8_t>(*sPin) - uint32_t{'0'});
-    AddCharacter('"');
-    if (!IsAbsent(sNewPin))
-    {
-        AddCharacter(',');
-        AddQuoted(sNewPin, 4);
-    }
-    return SendCommand(pStatus);
-}
-
-// --- call forwarding and waiting
-
-uint8_t AtChannel::Set_CCFC(uint8_t iReason, uint8_t iMode, const char* sNumber, uint8_t iType, int32_t iClass,
-                            int32_t iTime, uint16_t* pStatus)
-{
-    StartNamed("TANDEKOR_AT_Set_CCFC", "+CCFC=");
-    AddFirstDigit(iReason);
-    AddCommaAndFirstDigit(iMode);
-    if (iMode != queryMode && !IsAbsent(sNumber))
-    {
-        AddCharacter(',');
-        AddQuoted(sNumber, 12);
-        if (!IsAbsent(iType))
-            AddCommaAndDecimal(iType);
-        if (!IsAbsent(iClass))
-            AddCommaAndDecimal(static_cast<uint32_t>(iClass));
-        if (!IsAbsent(iTime))
-            AddCommaAndFirstDigit(static_cast<uint32_t>(iTime));
-    }
-    return SendCommand(pStatus, setForwardingTimeMs);
-}
-
-namespace
-{
-
-// Goes behind the number of one list entry and stores its first 12 characters; false if there is none.
+// Reads the phone number of a list entry, of which the first 12 characters are stored; false if there is none.
 bool ReadNumber(ReplyCursor& reply, char (&number)[12])
 {
     if (!IsDigit(reply.Current()) && reply.Current() != '+')
@@ -184,7 +99,7 @@ bool ReadNumber(ReplyCursor& reply, char (&number)[12])
     return true;
 }
 
-// A further numeric field behind the byte that parts it from the last one; false if the line ends there or holds none.
+// Skips the separator and reads one more number; false if the line ends there or no digit follows.
 bool ReadFurtherNumber(ReplyCursor& reply, uint32_t* value)
 {
     if (reply.Current() == '\r')
@@ -198,19 +113,118 @@ bool ReadFurtherNumber(ReplyCursor& reply, uint32_t* value)
 
 }  // namespace
 
-// An entry that ends in front of its last field ends the list with it.
-uint8_t AtChannel::Get_CCFC(uint8_t iReason, uint32_t* aiState, uint32_t* aiClass, char (*asNumber)[12],
-                            uint32_t* aiType, uint32_t* aiTime, uint32_t* piCount, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CKPD(ResourceContext hResourceContext, const char* sKeys, uint16_t iTime, uint16_t iPause,
+                             uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_Get_CCFC", "+CCFC=");
-    AddFirstDigit(iReason);
-    AddCommaAndFirstDigit(queryMode);
-    if (!SendCommand(pStatus, getForwardingTimeMs))
+    AtChannel* const at = At(hResourceContext);
+    if (at == nullptr)
+        return 0;
+    Trace(hResourceContext, "TANDEKOR_AT_Set_CKPD(Keys: %s, Time: %d, Pause: %d)", sKeys, iTime, iPause);
+    at->StartCommand("+CKPD=");
+    at->AddText(sKeys);
+    if (!IsAbsent(iTime))
+    {
+        at->AddCommaAndDecimal(iTime);
+        if (!IsAbsent(iPause))
+            at->AddCommaAndDecimal(iPause);
+    }
+    return at->SendCommand(pStatus);
+}
+
+// --- facility locks
+
+uint8_t TANDEKOR_AT_Set_CLCK(ResourceContext hResourceContext, const char* sFac, uint8_t iMode,
+                             const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus)
+{
+    return SetLock(hResourceContext, __func__, "+CLCK=", sFac, iMode, pPassword, iClass, pStatus);
+}
+
+uint8_t TANDEKOR_AT_Set_SLCK(ResourceContext hResourceContext, const char* sFac, uint8_t iMode,
+                             const uint8_t* pPassword, int32_t iClass, uint16_t* pStatus)
+{
+    return SetLock(hResourceContext, __func__, "^SLCK=", sFac, iMode, pPassword, iClass, pStatus);
+}
+
+uint8_t TANDEKOR_AT_Get_CLCK(ResourceContext hResourceContext, const char* sFac, uint8_t* aState, uint32_t* aiClass,
+                             uint32_t* piCount, uint16_t* pStatus)
+{
+    return GetLock(hResourceContext, __func__, "+CLCK=", sFac, aState, aiClass, piCount, pStatus);
+}
+
+uint8_t TANDEKOR_AT_Get_SLCK(ResourceContext hResourceContext, const char* sFac, uint8_t* aState, uint32_t* aiClass,
+                             uint32_t* piCount, uint16_t* pStatus)
+{
+    return GetLock(hResourceContext, __func__, "^SLCK=", sFac, aState, aiClass, piCount, pStatus);
+}
+
+// --- PIN
+
+uint8_t TANDEKOR_AT_Get_CPIN(ResourceContext hResourceContext, char* sCode, uint16_t* pStatus)
+{
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CPIN?", pStatus);
+    if (at == nullptr)
+        return 0;
+    at->CopyTextAt(18, '\r', sCode, 16);
+    return 1;
+}
+
+// Each character of the PIN is sent as the first digit of its value less 0x30: a digit as itself.
+uint8_t TANDEKOR_AT_Set_CPIN(ResourceContext hResourceContext, const char* sPin, const char* sNewPin, uint16_t* pStatus)
+{
+    AtChannel* const at = Start(hResourceContext, __func__, "+CPIN=\"");
+    if (at == nullptr)
+        return 0;
+    for (; *sPin != '\0'; ++sPin)
+        at->AddFirstDigit(static_cast<uint8_t>(*sPin) - uint32_t{'0'});
+    at->AddCharacter('"');
+    if (!IsAbsent(sNewPin))
+    {
+        at->AddCharacter(',');
+        at->AddQuoted(sNewPin, 4);
+    }
+    return at->SendCommand(pStatus);
+}
+
+// --- call forwarding and waiting
+
+uint8_t TANDEKOR_AT_Set_CCFC(ResourceContext hResourceContext, uint8_t iReason, uint8_t iMode, const char* sNumber,
+                             uint8_t iType, int32_t iClass, int32_t iTime, uint16_t* pStatus)
+{
+    AtChannel* const at = Start(hResourceContext, __func__, "+CCFC=");
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iReason);
+    at->AddCommaAndFirstDigit(iMode);
+    if (iMode != queryMode && !IsAbsent(sNumber))
+    {
+        at->AddCharacter(',');
+        at->AddQuoted(sNumber, 12);
+        if (!IsAbsent(iType))
+            at->AddCommaAndDecimal(iType);
+        if (!IsAbsent(iClass))
+            at->AddCommaAndDecimal(static_cast<uint32_t>(iClass));
+        if (!IsAbsent(iTime))
+            at->AddCommaAndFirstDigit(static_cast<uint32_t>(iTime));
+    }
+    return at->SendCommand(pStatus, setForwardingTimeMs);
+}
+
+// An entry that ends before its last field is the last of the list.
+uint8_t TANDEKOR_AT_Get_CCFC(ResourceContext hResourceContext, uint8_t iReason, uint32_t* aiState, uint32_t* aiClass,
+                             char (*asNumber)[12], uint32_t* aiType, uint32_t* aiTime, uint32_t* piCount,
+                             uint16_t* pStatus)
+{
+    AtChannel* const at = Start(hResourceContext, __func__, "+CCFC=");
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iReason);
+    at->AddCommaAndFirstDigit(queryMode);
+    if (!at->SendCommand(pStatus, getForwardingTimeMs))
         return 0;
     if (*pStatus != statusOk)
         return 1;
 
-    ReplyCursor reply = CursorAt(1);
+    ReplyCursor reply = at->CursorAt(1);
     reply.GoTo('\n');
     uint32_t count = 0;
     for (bool further = true; further; ++count)
@@ -236,38 +250,41 @@ uint8_t AtChannel::Get_CCFC(uint8_t iReason, uint32_t* aiState, uint32_t* aiClas
     return 1;
 }
 
-uint8_t AtChannel::Set_CCWA(uint8_t iN, uint8_t iMode, int32_t iClass, uint32_t* aiState, uint32_t* aiClasses,
-                            uint32_t* piCount, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CCWA(ResourceContext hResourceContext, uint8_t iN, uint8_t iMode, int32_t iClass,
+                             uint32_t* aiState, uint32_t* aiClasses, uint32_t* piCount, uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_Set_CCWA", "+CCWA");
+    AtChannel* const at = Start(hResourceContext, __func__, "+CCWA");
+    if (at == nullptr)
+        return 0;
     if (!IsAbsent(iN))
     {
-        AddCharacter('=');
-        AddFirstDigit(iN);
+        at->AddCharacter('=');
+        at->AddFirstDigit(iN);
         if (!IsAbsent(iMode))
         {
-            AddCommaAndFirstDigit(iMode);
+            at->AddCommaAndFirstDigit(iMode);
             if (!IsAbsent(iClass))
-                AddCommaAndDecimal(static_cast<uint32_t>(iClass));
+                at->AddCommaAndDecimal(static_cast<uint32_t>(iClass));
         }
     }
-    if (!SendCommand(pStatus, callWaitingTimeMs))
+    if (!at->SendCommand(pStatus, callWaitingTimeMs))
         return 0;
     if (*pStatus == statusOk && iMode == queryMode)
-        ReadPairs(aiState, aiClasses, piCount);
+        at->ReadPairs(aiState, aiClasses, piCount);
     return 1;
 }
 
 // --- service centre, cell broadcast, character set
 
-// A field that fills its buffer is cut there: the first loses its last byte to the NUL, and the byte behind it counts
-// as its closing quote; the second gets no NUL.
-uint8_t AtChannel::Get_CSCA(char* sSca, char* sTosca, uint16_t* pStatus)
+// A field is cut at the size of its buffer. The first then loses its last byte to the NUL, and the next byte of the
+// reply is taken for its closing quote; the second then gets no NUL.
+uint8_t TANDEKOR_AT_Get_CSCA(ResourceContext hResourceContext, char* sSca, char* sTosca, uint16_t* pStatus)
 {
     constexpr size_t fieldSize = 50;
-    if (!Query("TANDEKOR_AT_Get_CSCA", "+CSCA?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CSCA?", pStatus);
+    if (at == nullptr)
         return 0;
-    ReplyCursor reply = CursorAt(19);
+    ReplyCursor reply = at->CursorAt(19);
     const size_t scaLength = reply.CopyUpTo('"', sSca, fieldSize);
     sSca[std::min(scaLength, fieldSize - 1)] = '\0';
     reply.Skip();
@@ -283,100 +300,113 @@ uint8_t AtChannel::Get_CSCA(char* sSca, char* sTosca, uint16_t* pStatus)
     return 1;
 }
 
-uint8_t AtChannel::Set_CSCA(const char* sSca, const char* sTosca, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CSCA(ResourceContext hResourceContext, const char* sSca, const char* sTosca, uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_Set_CSCA", "+CSCA=");
-    AddQuoted(sSca);
+    AtChannel* const at = Start(hResourceContext, __func__, "+CSCA=");
+    if (at == nullptr)
+        return 0;
+    at->AddQuoted(sSca);
     if (!IsAbsent(sTosca))
     {
-        AddCharacter(',');
-        AddQuoted(sTosca, 50);
+        at->AddCharacter(',');
+        at->AddQuoted(sTosca, 50);
     }
-    return SendCommand(pStatus);
+    return at->SendCommand(pStatus);
 }
 
-uint8_t AtChannel::Get_CSCB(uint8_t* piMode, char* sMids, char* sDcss, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CSCB(ResourceContext hResourceContext, uint8_t* piMode, char* sMids, char* sDcss,
+                             uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CSCB", "+CSCB?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CSCB?", pStatus);
+    if (at == nullptr)
         return 0;
-    *piMode = CharacterAt(18);
-    ReplyCursor reply = CursorAt(21);
+    *piMode = at->CharacterAt(18);
+    ReplyCursor reply = at->CursorAt(21);
     sMids[reply.CopyUpTo('"', sMids, PacketBuffer::areaSize)] = '\0';
     reply.Skip(3);
     sDcss[reply.CopyUpTo('"', sDcss, PacketBuffer::areaSize)] = '\0';
     return 1;
 }
 
-uint8_t AtChannel::Set_CSCB(uint8_t iMode, const char* sMids, const char* sDcss, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CSCB(ResourceContext hResourceContext, uint8_t iMode, const char* sMids, const char* sDcss,
+                             uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_Set_CSCB", "+CSCB");
+    AtChannel* const at = Start(hResourceContext, __func__, "+CSCB");
+    if (at == nullptr)
+        return 0;
     if (!IsAbsent(iMode))
     {
-        AddCharacter('=');
-        AddFirstDigit(iMode);
+        at->AddCharacter('=');
+        at->AddFirstDigit(iMode);
         if (!IsAbsent(sMids))
         {
-            AddCharacter(',');
-            AddQuoted(sMids);
+            at->AddCharacter(',');
+            at->AddQuoted(sMids);
             if (!IsAbsent(sDcss))
             {
-                AddText(",\"");
-                AddByteDigits(sDcss);
-                AddCharacter('"');
+                at->AddText(",\"");
+                at->AddByteDigits(sDcss);
+                at->AddCharacter('"');
             }
         }
     }
-    return SendCommand(pStatus);
+    return at->SendCommand(pStatus);
 }
 
-uint8_t AtChannel::Get_CSCS(char* sCharset, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Get_CSCS(ResourceContext hResourceContext, char* sCharset, uint16_t* pStatus)
 {
-    if (!Query("TANDEKOR_AT_Get_CSCS", "+CSCS?", pStatus))
+    const AtChannel* const at = Query(hResourceContext, __func__, "+CSCS?", pStatus);
+    if (at == nullptr)
         return 0;
-    CopyTextAt(19, '"', sCharset, 16);
+    at->CopyTextAt(19, '"', sCharset, 16);
     return 1;
 }
 
-uint8_t AtChannel::Set_CSCS(const char* sCharset, uint16_t* pStatus)
+uint8_t TANDEKOR_AT_Set_CSCS(ResourceContext hResourceContext, const char* sCharset, uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_Set_CSCS", "+CSCS");
+    AtChannel* const at = Start(hResourceContext, __func__, "+CSCS");
+    if (at == nullptr)
+        return 0;
     if (!IsAbsent(sCharset))
     {
-        AddCharacter('=');
-        AddQuoted(sCharset, 16);
+        at->AddCharacter('=');
+        at->AddQuoted(sCharset, 16);
     }
-    return SendCommand(pStatus);
+    return at->SendCommand(pStatus);
 }
 
 // --- restricted SIM access
 
-// The file identifier is sent whole and the data behind a comma, as TS 27.007 has them.
-uint8_t AtChannel::CRSM(uint8_t iCommand, int32_t iFileId, int32_t iP1, int32_t iP2, int32_t iP3, const uint8_t* pData,
-                        uint32_t* piSw1, uint32_t* piSw2, char* sResponse, uint16_t* pStatus)
+// The file identifier is sent in full and the data after a comma, as in TS 27.007.
+uint8_t TANDEKOR_AT_CRSM(ResourceContext hResourceContext, uint8_t iCommand, int32_t iFileId, int32_t iP1, int32_t iP2,
+                         int32_t iP3, const uint8_t* pData, uint32_t* piSw1, uint32_t* piSw2, char* sResponse,
+                         uint16_t* pStatus)
 {
-    StartNamed("TANDEKOR_AT_CRSM", "+CRSM=");
-    AddFirstDigit(iCommand / 100u);
-    AddFirstDigit(iCommand / 10u % 10u);
-    AddFirstDigit(iCommand % 10u);
+    AtChannel* const at = Start(hResourceContext, __func__, "+CRSM=");
+    if (at == nullptr)
+        return 0;
+    at->AddFirstDigit(iCommand / 100u);
+    at->AddFirstDigit(iCommand / 10u % 10u);
+    at->AddFirstDigit(iCommand % 10u);
     if (!IsAbsent(iFileId))
     {
-        AddCommaAndDecimal(static_cast<uint32_t>(iFileId));
+        at->AddCommaAndDecimal(static_cast<uint32_t>(iFileId));
         if (!IsAbsent(iP1) && !IsAbsent(iP2) && !IsAbsent(iP3))
         {
-            AddCommaAndFirstDigit(static_cast<uint32_t>(iP1));
-            AddCommaAndFirstDigit(static_cast<uint32_t>(iP2));
-            AddCommaAndFirstDigit(static_cast<uint32_t>(iP3));
+            at->AddCommaAndFirstDigit(static_cast<uint32_t>(iP1));
+            at->AddCommaAndFirstDigit(static_cast<uint32_t>(iP2));
+            at->AddCommaAndFirstDigit(static_cast<uint32_t>(iP3));
             if (!IsAbsent(pData) && pData[0] != 0)
             {
-                AddCharacter(',');
-                AddByteDigits(pData);
+                at->AddCharacter(',');
+                at->AddByteDigits(pData);
             }
         }
     }
-    if (!SendCommand(pStatus))
+    if (!at->SendCommand(pStatus))
         return 0;
 
-    ReplyCursor reply = CursorAt(16);
+    ReplyCursor reply = at->CursorAt(16);
     reply.GoToFirst(IsDigit);
     *piSw1 = reply.AtEnd() ? absentNumber : reply.Digits();
     reply.Skip();
@@ -390,5 +420,3 @@ uint8_t AtChannel::CRSM(uint8_t iCommand, int32_t iFileId, int32_t iP1, int32_t 
     reply.CopyUpTo('\r', sResponse, PacketBuffer::areaSize);
     return 1;
 }
-
-}  // namespace tandekor

@@ -124,41 +124,60 @@ int AtChannel::IndexOfLastDigit() const
     return std::max(index, -1);
 }
 
+void AtChannel::ReadPairs(uint32_t* aiFirst, uint32_t* aiSecond, uint32_t* piCount) const
+{
+    ReplyCursor reply = CursorAt(16);
+    uint32_t count = 0;
+    for (reply.GoTo(':');; ++count)
+    {
+        reply.GoToFirst([](uint8_t current) { return IsDigit(current) || current == 'O'; });
+        if (!IsDigit(reply.Current()))
+            break;
+        const uint32_t first = reply.Digits();
+        reply.Skip();
+        if (reply.AtEnd())
+            break;
+        aiFirst[count] = first;
+        aiSecond[count] = reply.DigitsFromAnyStart();
+    }
+    *piCount = count;
+}
+
 bool AtChannel::Query(const char* name, const char* command, uint16_t* pStatus)
 {
     StartNamed(name, command);
     return SendCommand(pStatus);
 }
 
-uint8_t AtChannel::QueryDigit(const char* name, const char* command, int position, uint8_t* piValue, uint16_t* pStatus)
+bool AtChannel::QueryDigit(const char* name, const char* command, int position, uint8_t* piValue, uint16_t* pStatus)
 {
     if (!Query(name, command, pStatus))
-        return 0;
+        return false;
     *piValue = DigitAt(position);
-    return 1;
+    return true;
 }
 
-uint8_t AtChannel::QueryTwoDigits(const char* name, const char* command, int firstPosition, int secondPosition,
-                                  uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
+bool AtChannel::QueryTwoDigits(const char* name, const char* command, int firstPosition, int secondPosition,
+                               uint8_t* piFirst, uint8_t* piSecond, uint16_t* pStatus)
 {
     if (!Query(name, command, pStatus))
-        return 0;
+        return false;
     *piFirst = DigitAt(firstPosition);
     *piSecond = DigitAt(secondPosition);
-    return 1;
+    return true;
 }
 
-uint8_t AtChannel::QueryLastDigit(const char* name, const char* command, uint32_t* piValue, uint16_t* pStatus)
+bool AtChannel::QueryLastDigit(const char* name, const char* command, uint32_t* piValue, uint16_t* pStatus)
 {
     if (!Query(name, command, pStatus))
-        return 0;
+        return false;
     const int index = IndexOfLastDigit();
     if (index >= 0)
         *piValue = packetBuffer.ResponseAt(index) - uint32_t{'0'};
-    return 1;
+    return true;
 }
 
-uint8_t AtChannel::SetFirstDigit(const char* name, const char* command, uint8_t iValue, uint16_t* pStatus)
+bool AtChannel::SetFirstDigit(const char* name, const char* command, uint8_t iValue, uint16_t* pStatus)
 {
     Trace(hResourceContext, "%s(%d)", name, iValue);
     StartCommand(command);
@@ -166,16 +185,15 @@ uint8_t AtChannel::SetFirstDigit(const char* name, const char* command, uint8_t 
     return SendCommand(pStatus);
 }
 
-uint8_t AtChannel::SetFirstDigitUnshown(const char* name, const char* command, uint32_t iValue, uint16_t* pStatus,
-                                        uint32_t timeoutMs)
+bool AtChannel::SetFirstDigitUnshown(const char* name, const char* command, uint32_t iValue, uint16_t* pStatus)
 {
     StartNamed(name, command);
     AddFirstDigit(iValue);
-    return SendCommand(pStatus, timeoutMs);
+    return SendCommand(pStatus);
 }
 
-uint8_t AtChannel::SetOneOrTwo(const char* name, const char* command, uint8_t iFirst, int firstCharacters,
-                               uint8_t iSecond, uint16_t* pStatus)
+bool AtChannel::SetOneOrTwo(const char* name, const char* command, uint8_t iFirst, int firstCharacters, uint8_t iSecond,
+                            uint16_t* pStatus)
 {
     Trace(hResourceContext, "%s(%d, %d)", name, iFirst, iSecond);
     StartCommand(command);

@@ -8,7 +8,7 @@
 namespace tandekor
 {
 
-// At most one port is open for an object: from the first SwitchPhoneOn to the end of the connection.
+// At most one port is open per object: from the first SwitchPhoneOn to the end of the connection.
 class BootBoxPort
 {
 public:
@@ -24,7 +24,7 @@ public:
     bool ReleasePort();
 
 private:
-    // Gives a port with both lines dropped.
+    // Returns a port with both lines dropped.
     static platform::SerialHandle OpenPort(uint16_t iPort);
     bool ClosePort(platform::SerialHandle port) const;
     bool EnsurePortOpen(uint16_t iPort);

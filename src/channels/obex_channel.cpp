@@ -1,10 +1,5 @@
 #include "channels/obex_channel.h"
 
-#include <cstring>
-
-#include "channels/reply_reader.h"
-#include "core/text_log.h"
-#include "platform/clock.h"
 #include "platform/qmsl.h"
 
 namespace tandekor
@@ -13,71 +8,79 @@ namespace tandekor
 void ObexChannel::StartPacket(uint8_t operation)
 {
     packetBuffer.Reset();
-    packetBuffer.AddByte(operation);
-    AddBigEndianWord(0);
+    AddByte(operation);
+    AddWord(0);
 }
 
-void ObexChannel::AddBigEndianWord(uint16_t value)
+void ObexChannel::StartRequest(uint8_t operation)
 {
-    packetBuffer.AddByte(static_cast<uint8_t>(value >> 8));
-    packetBuffer.AddByte(static_cast<uint8_t>(value));
+    StartPacket(operation);
+    AddConnectionId();
 }
 
-void ObexChannel::AddBigEndianDword(uint32_t value)
+void ObexChannel::StartSetPath(uint8_t flags)
 {
-    AddBigEndianWord(static_cast<uint16_t>(value >> 16));
-    AddBigEndianWord(static_cast<uint16_t>(value));
+    StartPacket(setPathOperation);
+    AddByte(flags);
+    AddByte(0);  // constants
+    AddConnectionId();
+}
+
+void ObexChannel::AddWord(uint16_t value)
+{
+    AddByte(static_cast<uint8_t>(value >> 8));
+    AddByte(static_cast<uint8_t>(value));
+}
+
+void ObexChannel::AddDword(uint32_t value)
+{
+    AddWord(static_cast<uint16_t>(value >> 16));
+    AddWord(static_cast<uint16_t>(value));
 }
 
 void ObexChannel::AddConnectionId()
 {
-    packetBuffer.AddByte(connectionIdHeader);
-    AddBigEndianDword(connectionId);
+    AddByte(connectionIdHeader);
+    AddDword(connectionId);
 }
 
-// Byte by byte, without any code conversion.
 void ObexChannel::AddWidened(const char* text, size_t length)
 {
     for (size_t i = 0; i < length; ++i)
-        AddBigEndianWord(static_cast<uint8_t>(text[i]));
+        AddWord(static_cast<uint8_t>(text[i]));
 }
 
 void ObexChannel::AddName(const char* name, size_t length)
 {
-    packetBuffer.AddByte(nameHeader);
-    AddBigEndianWord(static_cast<uint16_t>(2 * length + 5));
+    AddByte(nameHeader);
+    AddWord(static_cast<uint16_t>(2 * length + 5));
     AddWidened(name, length);
-    AddBigEndianWord(0);
+    AddWord(0);
 }
 
-size_t ObexChannel::TextLength(const char* text) { return std::strlen(text); }
-
-bool ObexChannel::SendPacketWithTimeout(uint32_t timeoutMs, uint16_t* responseCode)
+Outcome ObexChannel::SendPacket(uint32_t timeoutMs)
 {
     packetBuffer.SetBigEndianWord(1, packetBuffer.RequestLength());
-    return Exchange(timeoutMs, responseCode);
+    return Exchange(timeoutMs);
 }
 
-bool ObexChannel::Exchange(uint32_t timeoutMs, uint16_t* responseCode)
+Outcome ObexChannel::SendRaw(const void* bytes, size_t count)
+{
+    packetBuffer.Reset();
+    AddBytes(bytes, count);
+    return Exchange(replyTimeMs);
+}
+
+Outcome ObexChannel::Exchange(uint32_t timeoutMs)
 {
     const uint8_t result = packetBuffer.Exchange(QLIB_SendRAW, hResourceContext, timeoutMs);
-    *responseCode = packetBuffer.ResponseAt(0);
-    return result != 0;
+    return {result != 0, packetBuffer.ResponseAt(0)};
 }
 
-// The phone takes the escape sequence for one only between two pauses.
-uint8_t ObexChannel::Switch_2_AT(uint16_t* piFirstByte)
+bool ObexChannel::EndOfBodyFollows() const
 {
-    constexpr char escapeSequence[] = "+++";  // sent with its NUL
-    constexpr uint32_t pauseMs = 1000;
-
-    Trace(hResourceContext, "TANDEKOR_OBEX_2_AT()");
-    packetBuffer.Reset();
-    packetBuffer.AddBytes(escapeSequence, sizeof escapeSequence);
-    platform::Sleep(pauseMs);
-    Exchange(replyTimeMs, piFirstByte);
-    platform::Sleep(pauseMs);
-    return 1;
+    ReplyReader reply = ReplyFrom(3);
+    return reply.PassConnectionId(connectionId) && reply.NextIs(endOfBodyHeader);
 }
 
 }  // namespace tandekor

@@ -1,5 +1,5 @@
-// A place in a reply that moves forward. It never reads behind the reply: there every byte is a NUL, which is neither a
-// digit nor any of the bytes that parsers look for.
+// A forward-only cursor over a reply. Past the end it reads NUL, which is neither a digit nor any byte that parsers
+// look for.
 #pragma once
 
 #include <algorithm>
@@ -16,7 +16,7 @@ inline bool IsDigit(uint8_t character) { return character >= '0' && character <=
 class ReplyCursor
 {
 public:
-    // Starts at an index, or at the first byte if that lies in front of it.
+    // Starts at the index, or at the first byte if the index is negative.
     ReplyCursor(const PacketBuffer& replyBuffer, int start) : reply(replyBuffer), index(std::max(start, 0)) {}
 
     bool AtEnd() const { return index >= reply.ResponseLength(); }
@@ -28,7 +28,7 @@ public:
     uint8_t Current() const { return Ahead(0); }
 
     void Skip(int count = 1) { index += count; }
-    // Goes to the next byte that fits, from the current one on.
+    // Moves to the first byte that fits, the current one included, or to the end.
     template <typename Fits>
     void GoToFirst(Fits fits)
     {
@@ -40,17 +40,17 @@ public:
         GoToFirst([character](uint8_t current) { return current == static_cast<uint8_t>(character); });
     }
 
-    // The number of the digits from the current byte on, 0 if there are none.
-    uint32_t Digits() { return DigitsBehind(0); }
-    // The same, with the current byte less 0x30 in front of them whatever it is.
+    // Reads the decimal number that starts at the current byte; 0 without a digit.
+    uint32_t Digits() { return DigitsAfter(0); }
+    // The same, but the current byte counts as the first digit (less 0x30) whatever it is.
     uint32_t DigitsFromAnyStart()
     {
         const uint32_t start = Current() - uint32_t{'0'};
         Skip();
-        return DigitsBehind(start);
+        return DigitsAfter(start);
     }
 
-    // Copies up to that byte, which is not copied, up to the reply's end, or as many bytes as told. No NUL is added.
+    // Copies the bytes before the stop character or the end of the reply, at most that many. No NUL is added.
     size_t CopyUpTo(char stop, char* text, size_t most)
     {
         size_t count = 0;
@@ -60,7 +60,7 @@ public:
     }
 
 private:
-    uint32_t DigitsBehind(uint32_t value)
+    uint32_t DigitsAfter(uint32_t value)
     {
         for (; IsDigit(Current()); Skip())
             value = value * 10 + (Current() - uint32_t{'0'});

@@ -11,9 +11,8 @@
 namespace tandekor
 {
 
-ConnectionRecord::ConnectionRecord(ResourceContext handle, uint32_t port)
+ConnectionRecord::ConnectionRecord(ResourceContext handle)
     : hResourceContext(handle),
-      portNumber(port),
       bootBoxPort(new (std::nothrow) BootBoxPort),
       atChannel(new (std::nothrow) AtChannel(handle)),
       ftmChannel(new (std::nothrow) FtmChannel(handle)),
@@ -21,7 +20,7 @@ ConnectionRecord::ConnectionRecord(ResourceContext handle, uint32_t port)
 {
 }
 
-// In the order in which they were made, so that the boot box port is released first.
+// In the order of their creation, so that the boot box port is released first.
 ConnectionRecord::~ConnectionRecord()
 {
     delete bootBoxPort;
@@ -42,7 +41,7 @@ ConnectionRegistry::Position ConnectionRegistry::FindConnection(ResourceContext 
                         [handle](const ConnectionRecord& record) { return record.hResourceContext == handle; });
 }
 
-bool ConnectionRegistry::AddConnection(ResourceContext handle, uint32_t port)
+bool ConnectionRegistry::AddConnection(ResourceContext handle)
 {
     const Position record = FindConnection(handle);
     if (record != connections.end())
@@ -52,7 +51,7 @@ bool ConnectionRegistry::AddConnection(ResourceContext handle, uint32_t port)
     }
     try
     {
-        connections.emplace_back(handle, port);
+        connections.emplace_back(handle);
     }
     catch (const std::bad_alloc&)
     {

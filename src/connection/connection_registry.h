@@ -10,23 +10,21 @@ namespace tandekor
 {
 
 class AtChannel;
+class BootBoxPort;
 class FtmChannel;
 class ObexChannel;
-class BootBoxPort;
 
-// One connected phone. A service object that could not be made for lack of memory is null, which its callers take for
-// an unknown handle.
+// One connected phone. A service object is null if memory ran out for it; callers then treat the handle as unknown.
 struct ConnectionRecord
 {
-    ConnectionRecord(ResourceContext handle, uint32_t port);
+    explicit ConnectionRecord(ResourceContext handle);
     ~ConnectionRecord();
     ConnectionRecord(const ConnectionRecord&) = delete;
     ConnectionRecord& operator=(const ConnectionRecord&) = delete;
 
     ResourceContext hResourceContext;
-    int32_t useCount = 1;  // connects of this handle that are open
-    uint32_t portNumber;
-    BootBoxPort* bootBoxPort;
+    int32_t useCount = 1;      // open connects of this handle
+    BootBoxPort* bootBoxPort;  // what procedures need of a connection
     AtChannel* atChannel;
     FtmChannel* ftmChannel;
     ObexChannel* obexChannel;
@@ -35,16 +33,16 @@ struct ConnectionRecord
 class ConnectionRegistry
 {
 public:
-    // Made by the first call and destroyed when the process ends, without a call to the host library.
+    // Created on first use and destroyed at the end of the process, without a call to the host library.
     static ConnectionRegistry& Instance();
 
-    // Whether the record stands. A handle that is known already counts one use more and keeps its record.
-    bool AddConnection(ResourceContext handle, uint32_t port);
-    // The last use takes the record away.
+    // Adds a record, or counts one more use of a known handle. False if memory runs out.
+    bool AddConnection(ResourceContext handle);
+    // Counts one use less; the last one removes the record.
     void RemoveConnection(ResourceContext handle);
     void RemoveAllConnections() { connections.clear(); }
 
-    // Null for an unknown handle; the AT and OBEX channels are also out of reach in the QPST mode.
+    // Null for an unknown handle; the AT and OBEX channels are null in QPST mode too.
     BootBoxPort* GetBootBoxPort(ResourceContext handle);
     FtmChannel* GetFtmChannel(ResourceContext handle);
     AtChannel* GetAtChannel(ResourceContext handle);

@@ -22,7 +22,7 @@ const char* SupportedHostVersion()
     return ConnectionRegistry::Instance().qpstMode ? "QLIB V5.0.40,QPST" : "QLIB V5.0.40,QPHONEMS";
 }
 
-// The host library's version text, in an area that leaves room for more than it is known to write.
+// The host library's version text, in a buffer larger than the longest known one.
 class HostVersion
 {
 public:
@@ -38,8 +38,8 @@ private:
     char text[512] = {};
 };
 
-// Compares the part in front of the comma, as the host library gives it: a text that is cut short in front of its comma
-// passes, and so does an empty one. The mode word behind the comma takes no part.
+// Compares the host library's text up to its comma; the mode word after the comma is ignored. A text that ends before
+// its comma passes, and so does an empty one.
 bool HostVersionIsSupported()
 {
     constexpr size_t mostCharacters = 50;
@@ -63,7 +63,7 @@ ResourceContext ConnectTo(Connect connect, uint32_t port, Arguments... arguments
     const ResourceContext handle = connect(port, arguments...);
     if (handle == 0)
         return 0;
-    if (!ConnectionRegistry::Instance().AddConnection(handle, port))
+    if (!ConnectionRegistry::Instance().AddConnection(handle))
     {
         QLIB_DisconnectServer(handle);
         return 0;

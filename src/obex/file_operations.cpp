@@ -3,8 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "channels/obex_session.h"
-#include "channels/reply_reader.h"
+#include "obex/in_session.h"
 #include "platform/clock.h"
 #include "platform/host_file.h"
 
@@ -14,7 +13,7 @@ namespace tandekor
 namespace
 {
 
-// A folder and a file name, put together without anything between.
+// A folder and a file name, joined without anything between.
 class JoinedPath
 {
 public:
@@ -47,128 +46,105 @@ private:
     char text[40];
 };
 
-}  // namespace
-
-uint8_t ObexChannel::GetFile(const char* psPhoneFolder, const char* psFileName, const char* psLocalFolder,
-                             uint16_t* piObexError)
+// After the first failed write the remaining data are discarded; the transfer continues.
+TandekorObexError GetFileToHost(ObexChannel& obex, const char* psFileName, const char* psLocalFolder)
 {
-    return InSession(psPhoneFolder, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         if (GetFileToHost(psFileName, psLocalFolder, &responseCode))
-                             return TANDEKOR_OBEX_NO_ERROR;
-                         return responseCode == missingFileCode ? TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED
-                                                                : TANDEKOR_OBEX_GET_FAILED;
-                     });
-}
-
-uint8_t ObexChannel::SendFile(const char* psLocalFolder, const char* psFileName, const char* psPhoneFolder,
-                              uint16_t* piObexError)
-{
-    const uint8_t closed = InSession(psPhoneFolder, piObexError,
-                                     [&]
-                                     {
-                                         uint16_t responseCode = 0;
-                                         return PutFileFromHost(psLocalFolder, psFileName, &responseCode)
-                                                    ? TANDEKOR_OBEX_NO_ERROR
-                                                    : TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED;
-                                     });
-    return closed != 0 && *piObexError == 0;
-}
-
-// The reply that ends a Get has to hold an End of Body; data in it are not taken.
-bool ObexChannel::EndOfBodyFollows() const
-{
-    ReplyReader reply(packetBuffer, 3);
-    return reply.PassConnectionId(connectionId) && reply.NextIs(endOfBodyHeader);
-}
-
-// From the first data on that cannot be written to the host file all are dropped, and the transfer goes on.
-bool ObexChannel::GetFileToHost(const char* psFileName, const char* psLocalFolder, uint16_t* responseCode)
-{
-    *responseCode = 0;
     if (*psFileName == '\0')
-        return true;
+        return TANDEKOR_OBEX_NO_ERROR;
     const JoinedPath hostPath(psLocalFolder, psFileName);
     if (!hostPath.Fits())
-        return false;
+        return TANDEKOR_OBEX_GET_FAILED;
     bool written = false;
     for (bool first = true;; first = false)
     {
-        if (!ContinueGet(
-                first, [&] { AddName(psFileName); }, responseCode))
-            return false;
-        if (*responseCode == successCode)
-            return EndOfBodyFollows();
-        if (*responseCode == notFoundCode)
-            *responseCode = missingFileCode;
-        ReplyReader reply(packetBuffer, 3);
-        if (*responseCode != continueCode || !reply.PassConnectionId(connectionId))
-            return false;
+        obex.StartRequest(getOperation);
+        if (first)
+            obex.AddName(psFileName);
+        const Outcome outcome = obex.SendPacket(ObexChannel::getTimeMs);
+        if (outcome.Is(successCode))
+            return obex.EndOfBodyFollows() ? TANDEKOR_OBEX_NO_ERROR : TANDEKOR_OBEX_GET_FAILED;
+        if (outcome.Is(notFoundCode))
+            return TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED;
+        if (!outcome.Is(continueCode))
+            return TANDEKOR_OBEX_GET_FAILED;
+
+        ReplyReader reply = obex.ReplyFrom(3);
+        if (!reply.PassConnectionId(obex.ConnectionId()))
+            return TANDEKOR_OBEX_GET_FAILED;
         if (reply.NextIs(lengthHeader))
             reply.Skip(5);
         uint16_t headerLength = 0;
         if (!reply.NextIs(bodyHeader) || !reply.WordFollows(&headerLength) || headerLength < 3
             || headerLength > reply.Left())
-            return false;
-        const uint8_t* data = packetBuffer.ResponseFrom(reply.Position() + 3);
+            return TANDEKOR_OBEX_GET_FAILED;
+        reply.Skip(3);
         const size_t count = headerLength - 3u;
-        written = first ? platform::OverwriteFile(hostPath.Text(), data, count)
-                        : written && platform::AppendToFile(hostPath.Text(), data, count);
+        written = first ? platform::OverwriteFile(hostPath.Text(), reply.Bytes(), count)
+                        : written && platform::AppendToFile(hostPath.Text(), reply.Bytes(), count);
     }
 }
 
-// The phone's response code is not looked at. A packet holds the bytes that the file really has at its place: a file
-// that became shorter during the transfer gives shorter packets, and nothing else is sent in their place.
-bool ObexChannel::PutFileFromHost(const char* psLocalFolder, const char* psFileName, uint16_t* responseCode)
+// The phone's response code is not checked. A packet holds the bytes that the file really has at its position: a file
+// that became shorter during the transfer gives shorter packets, and nothing else is sent instead.
+TandekorObexError PutFileFromHost(ObexChannel& obex, const char* psLocalFolder, const char* psFileName)
 {
-    *responseCode = 0;
     if (*psLocalFolder == '\0' || *psFileName == '\0')
-        return true;
+        return TANDEKOR_OBEX_NO_ERROR;
     const JoinedPath hostPath(psLocalFolder, psFileName);
-    if (!hostPath.Fits())
-        return false;
     uint64_t size = 0;
-    if (!platform::FileSize(hostPath.Text(), &size) || size > UINT32_MAX)
-    {
-        *responseCode = missingFileCode;
-        return false;
-    }
+    if (!hostPath.Fits() || !platform::FileSize(hostPath.Text(), &size) || size > UINT32_MAX)
+        return TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED;
 
     const ObexTime time;
     uint64_t sent = 0;
     size_t overhead = 2 * std::strlen(psFileName) + 39;  // with the headers of the first packet
-    if (overhead >= maxPacketLength)
-        return false;
     for (;;)
     {
-        uint8_t chunk[maxPacketLength];
-        const auto count = static_cast<size_t>(std::min<uint64_t>(size - sent, maxPacketLength - overhead));
+        uint8_t chunk[ObexChannel::maxPacketLength];
+        const auto count = static_cast<size_t>(std::min<uint64_t>(size - sent, sizeof chunk - overhead));
         const bool last = sent + count == size;
         const size_t got = platform::ReadFromFile(hostPath.Text(), sent, chunk, count);
 
-        StartPacket(last ? finalPutOperation : putOperation);
-        AddConnectionId();
+        obex.StartRequest(last ? finalPutOperation : putOperation);
         if (sent == 0)
         {
-            AddName(psFileName);
-            packetBuffer.AddByte(lengthHeader);
-            AddBigEndianDword(static_cast<uint32_t>(size));
-            packetBuffer.AddByte(timeHeader);
-            AddBigEndianWord(ObexTime::length + 3);
-            packetBuffer.AddBytes(time.Text(), ObexTime::length);
+            obex.AddName(psFileName);
+            obex.AddByte(lengthHeader);
+            obex.AddDword(static_cast<uint32_t>(size));
+            obex.AddByte(timeHeader);
+            obex.AddWord(ObexTime::length + 3);
+            obex.AddBytes(time.Text(), ObexTime::length);
         }
-        packetBuffer.AddByte(last ? endOfBodyHeader : bodyHeader);
-        AddBigEndianWord(static_cast<uint16_t>(got + 3));
-        packetBuffer.AddBytes(chunk, got);
-        if (!SendPacketWithTimeout(putTimeMs, responseCode))
-            return false;
+        obex.AddByte(last ? endOfBodyHeader : bodyHeader);
+        obex.AddWord(static_cast<uint16_t>(got + 3));
+        obex.AddBytes(chunk, got);
+        if (!obex.SendPacket(ObexChannel::putTimeMs).exchanged)
+            return TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED;
         sent += count;
         overhead = 11;
         if (last)
-            return true;
+            return TANDEKOR_OBEX_NO_ERROR;
     }
 }
 
+}  // namespace
+
 }  // namespace tandekor
+
+using namespace tandekor;
+
+uint8_t TANDEKOR_OBEX_GetFile(ResourceContext hResourceContext, const char* psPhoneFolder, const char* psFileName,
+                              const char* psLocalFolder, uint16_t* piObexError)
+{
+    return InSession(hResourceContext, psPhoneFolder, piObexError,
+                     [&](ObexChannel& obex) { return GetFileToHost(obex, psFileName, psLocalFolder); });
+}
+
+uint8_t TANDEKOR_OBEX_SendFile(ResourceContext hResourceContext, const char* psLocalFolder, const char* psFileName,
+                               const char* psPhoneFolder, uint16_t* piObexError)
+{
+    const uint8_t closed
+        = InSession(hResourceContext, psPhoneFolder, piObexError,
+                    [&](ObexChannel& obex) { return PutFileFromHost(obex, psLocalFolder, psFileName); });
+    return closed != 0 && *piObexError == 0;
+}

@@ -1,9 +1,8 @@
 // What the phone's server does with files and folders by itself: delete, create, copy, move, permissions, free space.
-// The last four are the server's own, asked for by Application Parameters that only it knows.
+// The last four are the server's own, requested by Application Parameters that only it knows.
 #include <cstring>
 
-#include "channels/obex_session.h"
-#include "channels/reply_reader.h"
+#include "obex/in_session.h"
 
 namespace tandekor
 {
@@ -11,17 +10,9 @@ namespace tandekor
 namespace
 {
 
-// Tags of the server's Application Parameters.
-constexpr uint8_t freeSpaceTag = 0x32;
-constexpr uint8_t actionTag = 0x34;
-constexpr uint8_t sourcePathTag = 0x35;
-constexpr uint8_t destinationPathTag = 0x36;
-constexpr uint8_t permissionsTag = 0x38;
-
-constexpr uint8_t createFolder = 0x00;
 constexpr size_t mostPathCharacters = 127;  // a tag's length is one byte, and a character takes two
 
-// A folder with its backslashes turned into slashes, and a file name behind it.
+// A folder with its backslashes turned into slashes, and a file name after it.
 class ServerPath
 {
 public:
@@ -76,191 +67,142 @@ private:
     size_t length = 0;
 };
 
-// The error bits of an operation by the phone's response code, of which one refusal has a bit of its own.
-int ErrorOf(bool exchanged, uint16_t responseCode, int failed, uint16_t refusalCode, int refused)
+// The error bits of an operation, of whose refusals one has a bit of its own.
+TandekorObexError ErrorOf(Outcome outcome, TandekorObexError failed, uint8_t refusalCode, TandekorObexError refused)
 {
-    if (exchanged && responseCode == successCode)
-        return 0;
-    return exchanged && responseCode == refusalCode ? refused : failed;
+    if (outcome.Is(successCode))
+        return TANDEKOR_OBEX_NO_ERROR;
+    return outcome.Is(refusalCode) ? refused : failed;
+}
+
+// The last four bytes of a reply that is shorter than 256 bytes.
+bool LastDword(ReplyReader reply, uint32_t* value)
+{
+    const int left = reply.LeftOfPacket();
+    if (reply.PacketLength() > 255 || !reply.PacketIsWhole() || left < 4)
+        return false;
+    reply.Skip(left - 5);
+    return reply.DwordFollows(value);
+}
+
+uint8_t CopyOrMove(ResourceContext hResourceContext, const char* action, TandekorObexError failed,
+                   const char* psSourceFolder, const char* psFileName, const char* psDestinationFolder,
+                   uint16_t* piObexError)
+{
+    const auto copyOrMove = [&](ObexChannel& obex)
+    {
+        const ServerPath source(psSourceFolder, psFileName);
+        const ServerPath destination(psDestinationFolder, psFileName);
+        if (*psSourceFolder == '\0' || *psFileName == '\0' || *psDestinationFolder == '\0' || !source.Fits()
+            || !destination.Fits())
+            return failed;
+        const size_t m = source.Length();
+        const size_t k = destination.Length();
+
+        obex.StartRequest(finalPutOperation);
+        obex.AddByte(applicationParametersHeader);
+        obex.AddWord(static_cast<uint16_t>(2 * m + 2 * k + 13));
+        obex.AddByte(actionTag);
+        obex.AddByte(4);
+        obex.AddBytes(action, 4);
+        obex.AddByte(sourcePathTag);
+        obex.AddByte(static_cast<uint8_t>(2 * m));
+        obex.AddWidened(source.Text(), m);
+        obex.AddByte(destinationPathTag);
+        obex.AddByte(static_cast<uint8_t>(2 * k));
+        obex.AddWidened(destination.Text(), k);
+        return ErrorOf(obex.SendPacket(ObexChannel::copyTimeMs), failed, forbiddenCode, TANDEKOR_OBEX_FORBIDDEN);
+    };
+    return InSession(hResourceContext, nullptr, piObexError, copyOrMove);
 }
 
 }  // namespace
 
-uint8_t ObexChannel::DeleteFile(const char* psPhoneFolder, const char* psFileName, uint16_t* piObexError)
-{
-    return InSession(psPhoneFolder, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         if (!DeleteObject(psFileName, &responseCode))
-                             return TANDEKOR_OBEX_DELETE_FAILED;
-                         return responseCode == notFoundCode ? TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED
-                                                             : TANDEKOR_OBEX_NO_ERROR;
-                     });
-}
+}  // namespace tandekor
+
+using namespace tandekor;
 
 // A Put without a body.
-bool ObexChannel::DeleteObject(const char* psFileName, uint16_t* responseCode)
+uint8_t TANDEKOR_OBEX_DeleteFile(ResourceContext hResourceContext, const char* psPhoneFolder, const char* psFileName,
+                                 uint16_t* piObexError)
 {
-    *responseCode = 0;
-    if (*psFileName == '\0')
-        return true;
-    StartPacket(finalPutOperation);
-    AddConnectionId();
-    AddName(psFileName);
-    return SendPacketWithTimeout(getTimeMs, responseCode);
-}
-
-uint8_t ObexChannel::CreateFolder(const char* psPhoneFolder, const char* psFolderName, uint16_t* piObexError)
-{
-    return InSession(psPhoneFolder, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         return MakeFolder(psFolderName, &responseCode) ? TANDEKOR_OBEX_NO_ERROR
-                                                                        : TANDEKOR_OBEX_CREATE_FAILED;
-                     });
-}
-
-bool ObexChannel::MakeFolder(const char* psFolderName, uint16_t* responseCode)
-{
-    *responseCode = 0;
-    if (*psFolderName == '\0')
-        return true;
-    StartPacket(setPathOperation);
-    packetBuffer.AddByte(createFolder);
-    packetBuffer.AddByte(0);  // constants
-    AddConnectionId();
-    AddName(psFolderName);
-    return SendPacket(responseCode) && *responseCode == successCode;
-}
-
-uint8_t ObexChannel::CopyFile(const char* psSourceFolder, const char* psFileName, const char* psDestinationFolder,
-                              uint16_t* piObexError)
-{
-    return InSession(nullptr, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         const bool exchanged
-                             = CopyOrMoveObject(false, psSourceFolder, psFileName, psDestinationFolder, &responseCode);
-                         return ErrorOf(exchanged, responseCode, TANDEKOR_OBEX_COPY_FAILED, forbiddenCode,
-                                        TANDEKOR_OBEX_FORBIDDEN);
-                     });
-}
-
-uint8_t ObexChannel::MoveFile(const char* psSourceFolder, const char* psFileName, const char* psDestinationFolder,
-                              uint16_t* piObexError)
-{
-    return InSession(nullptr, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         const bool exchanged
-                             = CopyOrMoveObject(true, psSourceFolder, psFileName, psDestinationFolder, &responseCode);
-                         return ErrorOf(exchanged, responseCode, TANDEKOR_OBEX_MOVE_FAILED, forbiddenCode,
-                                        TANDEKOR_OBEX_FORBIDDEN);
-                     });
-}
-
-// With an empty text nothing is sent; the response code 0 then counts as a failure.
-bool ObexChannel::CopyOrMoveObject(bool isMove, const char* psSourceFolder, const char* psFileName,
-                                   const char* psDestinationFolder, uint16_t* responseCode)
-{
-    *responseCode = 0;
-    if (*psSourceFolder == '\0' || *psFileName == '\0' || *psDestinationFolder == '\0')
-        return true;
-    const ServerPath source(psSourceFolder, psFileName);
-    const ServerPath destination(psDestinationFolder, psFileName);
-    if (!source.Fits() || !destination.Fits())
-        return false;
-    const size_t m = source.Length();
-    const size_t k = destination.Length();
-
-    StartPacket(finalPutOperation);
-    AddConnectionId();
-    packetBuffer.AddByte(applicationParametersHeader);
-    AddBigEndianWord(static_cast<uint16_t>(2 * m + 2 * k + 13));
-    packetBuffer.AddByte(actionTag);
-    packetBuffer.AddByte(4);
-    packetBuffer.AddBytes(isMove ? "move" : "copy", 4);
-    packetBuffer.AddByte(sourcePathTag);
-    packetBuffer.AddByte(static_cast<uint8_t>(2 * m));
-    AddWidened(source.Text(), m);
-    packetBuffer.AddByte(destinationPathTag);
-    packetBuffer.AddByte(static_cast<uint8_t>(2 * k));
-    AddWidened(destination.Text(), k);
-    return SendPacketWithTimeout(copyTimeMs, responseCode);
-}
-
-uint8_t ObexChannel::SetAttr(const char* psPhoneFolder, const char* psFileName, uint32_t iFirstPermissions,
-                             uint32_t iSecondPermissions, uint16_t* piObexError)
-{
-    return InSession(psPhoneFolder, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         const bool exchanged
-                             = SetObjectPermissions(psFileName, iFirstPermissions, iSecondPermissions, &responseCode);
-                         return ErrorOf(exchanged, responseCode, TANDEKOR_OBEX_PERMISSIONS_FAILED, forbiddenCode,
-                                        TANDEKOR_OBEX_FORBIDDEN);
-                     });
-}
-
-bool ObexChannel::SetObjectPermissions(const char* psFileName, uint32_t iFirstPermissions, uint32_t iSecondPermissions,
-                                       uint16_t* responseCode)
-{
-    *responseCode = 0;
-    if (*psFileName == '\0')
-        return true;
-    const PermissionText first(iFirstPermissions);
-    const PermissionText second(iSecondPermissions);
-    const size_t count = first.Length() + second.Length();
-
-    StartPacket(finalPutOperation);
-    AddConnectionId();
-    AddName(psFileName);
-    packetBuffer.AddByte(applicationParametersHeader);
-    AddBigEndianWord(static_cast<uint16_t>(count + 5));
-    packetBuffer.AddByte(permissionsTag);
-    packetBuffer.AddByte(static_cast<uint8_t>(count));
-    packetBuffer.AddBytes(first.Text(), first.Length());
-    packetBuffer.AddBytes(second.Text(), second.Length());
-    return SendPacket(responseCode);
-}
-
-uint8_t ObexChannel::FreeSpaceCheck(uint32_t* piFreeSpace, uint16_t* piObexError)
-{
-    return InSession(nullptr, piObexError,
-                     [&]
-                     {
-                         uint16_t responseCode = 0;
-                         const bool exchanged = QueryFreeSpace(piFreeSpace, &responseCode);
-                         return ErrorOf(exchanged, responseCode, TANDEKOR_OBEX_FREE_SPACE_FAILED, notFoundCode,
-                                        TANDEKOR_OBEX_FREE_SPACE_NOT_FOUND);
-                     });
-}
-
-// The value is the last four bytes of the reply, which is shorter than 256 bytes.
-bool ObexChannel::QueryFreeSpace(uint32_t* piFreeSpace, uint16_t* responseCode)
-{
-    constexpr uint8_t query[] = {applicationParametersHeader, 0x00, 0x06, freeSpaceTag, 0x01, 0x02};
-    *responseCode = 0;
-    StartPacket(getOperation);
-    AddConnectionId();
-    packetBuffer.AddBytes(query, sizeof query);
-    if (!SendPacketWithTimeout(getTimeMs, responseCode))
-        return false;
-    if (*responseCode == successCode)
+    const auto deleteObject = [&](ObexChannel& obex)
     {
-        const int length = packetBuffer.ResponseAt(2);
-        if (packetBuffer.ResponseAt(1) != 0 || length < 3 + 4 || length > packetBuffer.ResponseLength())
-            return false;
-        *piFreeSpace = 0;
-        for (int i = length - 4; i < length; ++i)
-            *piFreeSpace = *piFreeSpace << 8 | packetBuffer.ResponseAt(i);
-    }
-    return true;
+        if (*psFileName == '\0')
+            return TANDEKOR_OBEX_NO_ERROR;
+        obex.StartRequest(finalPutOperation);
+        obex.AddName(psFileName);
+        const Outcome outcome = obex.SendPacket(ObexChannel::getTimeMs);
+        if (!outcome.exchanged)
+            return TANDEKOR_OBEX_DELETE_FAILED;
+        return outcome.code == notFoundCode ? TANDEKOR_OBEX_NO_SUCH_FILE_OR_PUT_FAILED : TANDEKOR_OBEX_NO_ERROR;
+    };
+    return InSession(hResourceContext, psPhoneFolder, piObexError, deleteObject);
 }
 
-}  // namespace tandekor
+uint8_t TANDEKOR_OBEX_CreateFolder(ResourceContext hResourceContext, const char* psPhoneFolder,
+                                   const char* psFolderName, uint16_t* piObexError)
+{
+    const auto makeFolder = [&](ObexChannel& obex)
+    {
+        if (*psFolderName == '\0')
+            return TANDEKOR_OBEX_NO_ERROR;
+        obex.StartSetPath(createFolder);
+        obex.AddName(psFolderName);
+        return obex.SendPacket().Is(successCode) ? TANDEKOR_OBEX_NO_ERROR : TANDEKOR_OBEX_CREATE_FAILED;
+    };
+    return InSession(hResourceContext, psPhoneFolder, piObexError, makeFolder);
+}
+
+uint8_t TANDEKOR_OBEX_CopyFile(ResourceContext hResourceContext, const char* psSourceFolder, const char* psFileName,
+                               const char* psDestinationFolder, uint16_t* piObexError)
+{
+    return CopyOrMove(hResourceContext, "copy", TANDEKOR_OBEX_COPY_FAILED, psSourceFolder, psFileName,
+                      psDestinationFolder, piObexError);
+}
+
+uint8_t TANDEKOR_OBEX_MoveFile(ResourceContext hResourceContext, const char* psSourceFolder, const char* psFileName,
+                               const char* psDestinationFolder, uint16_t* piObexError)
+{
+    return CopyOrMove(hResourceContext, "move", TANDEKOR_OBEX_MOVE_FAILED, psSourceFolder, psFileName,
+                      psDestinationFolder, piObexError);
+}
+
+uint8_t TANDEKOR_OBEX_SetAttr(ResourceContext hResourceContext, const char* psPhoneFolder, const char* psFileName,
+                              uint32_t iFirstPermissions, uint32_t iSecondPermissions, uint16_t* piObexError)
+{
+    const auto setPermissions = [&](ObexChannel& obex)
+    {
+        if (*psFileName == '\0')
+            return TANDEKOR_OBEX_PERMISSIONS_FAILED;
+        const PermissionText first(iFirstPermissions);
+        const PermissionText second(iSecondPermissions);
+        const size_t count = first.Length() + second.Length();
+
+        obex.StartRequest(finalPutOperation);
+        obex.AddName(psFileName);
+        obex.AddByte(applicationParametersHeader);
+        obex.AddWord(static_cast<uint16_t>(count + 5));
+        obex.AddByte(permissionsTag);
+        obex.AddByte(static_cast<uint8_t>(count));
+        obex.AddBytes(first.Text(), first.Length());
+        obex.AddBytes(second.Text(), second.Length());
+        return ErrorOf(obex.SendPacket(), TANDEKOR_OBEX_PERMISSIONS_FAILED, forbiddenCode, TANDEKOR_OBEX_FORBIDDEN);
+    };
+    return InSession(hResourceContext, psPhoneFolder, piObexError, setPermissions);
+}
+
+uint8_t TANDEKOR_OBEX_FreeSpaceCheck(ResourceContext hResourceContext, uint32_t* piFreeSpace, uint16_t* piObexError)
+{
+    const auto queryFreeSpace = [&](ObexChannel& obex)
+    {
+        constexpr uint8_t query[] = {applicationParametersHeader, 0x00, 0x06, freeSpaceTag, 0x01, 0x02};
+        obex.StartRequest(getOperation);
+        obex.AddBytes(query, sizeof query);
+        const Outcome outcome = obex.SendPacket(ObexChannel::getTimeMs);
+        if (outcome.Is(successCode) && !LastDword(obex.ReplyFrom(3), piFreeSpace))
+            return TANDEKOR_OBEX_FREE_SPACE_FAILED;
+        return ErrorOf(outcome, TANDEKOR_OBEX_FREE_SPACE_FAILED, notFoundCode, TANDEKOR_OBEX_FREE_SPACE_NOT_FOUND);
+    };
+    return InSession(hResourceContext, nullptr, piObexError, queryFreeSpace);
+}

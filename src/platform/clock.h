@@ -33,7 +33,7 @@ public:
     // Whether less than the limit's time has gone by.
     bool Running() const { return TickCount() - start < length; }
 
-    // Whether more than the limit's time has gone by. At the limit itself neither holds.
+    // Whether more than the limit's time has gone by. Exactly at the limit both return false.
     bool Passed() const { return TickCount() - start > length; }
 
 private:

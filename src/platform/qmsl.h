@@ -1,6 +1,6 @@
 // The operations of the chip vendor's host library that this library calls, 114 in all. Every operation but those that
 // connect or steer the library itself takes the handle of a connection first. A uint8_t result is non-zero for success.
-// Pointers named as opaque are handed through: what they point to is the host library's affair.
+// Pointers named as opaque are passed on: only the host library knows what they point to.
 #pragma once
 
 #include <cstdint>

@@ -81,7 +81,7 @@ protected:
     };
 };
 
-// A reply with each of its bytes and lengths told wrong, and cut behind each of its bytes.
+// A reply with each of its bytes and lengths told wrong, and cut after each of its bytes.
 std::vector<simulator::Reply> Lies(const Bytes& good)
 {
     std::vector<simulator::Reply> lies = {{good, 1, 0}, {good, 1, 3}, {good, 1, 4096}, {good, 1, 65535}};
@@ -157,7 +157,7 @@ TEST_F(ObexFailuresTest, RefusalsSetTheBitsOfTheirOperation)
     }
 }
 
-// That nothing is read or written outside its area shows in the guard bytes and under the address sanitizer.
+// That nothing is read or written outside its buffer shows in the guard bytes and under the address sanitizer.
 TEST_F(ObexFailuresTest, RepliesThatLieDoNoHarm)
 {
     for (const Operation& operation : operations)

@@ -35,7 +35,7 @@ protected:
         EXPECT_EQ(HostText("f"), hostText);
     }
 
-    // The first bytes of each packet behind the connect, up to its identifier, with its real length.
+    // The first bytes of each packet after the connect, up to its identifier, with its real length.
     std::vector<std::string> SentPackets() const
     {
         std::vector<std::string> packets;

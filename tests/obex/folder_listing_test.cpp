@@ -72,7 +72,7 @@ TEST_F(FolderListingTest, RepliesOfAnotherFormFail)
     ExpectListing({"90 00 0D 48 00 05 61 62 C3 00 00 00 02", "A0"}, 16, 8, 16, "ab\xC3" + std::string("\0\0\0\2", 4));
     ExpectListing({"90 00 0D C3 00 00 00 04 42 00 05 61 62"}, 8, 8, 4, "");
     ExpectListing({"90 00 0D C3 00 00 00 04 48 00 05 61 62", "C1 00 03"}, 8, 8, 4, "ab");
-    // Cut in front of the Body, and in front of the End of Body.
+    // Cut before the Body, and before the End of Body.
     ExpectListing({"90 00 0D CB 00 00 00 05"}, 8, 8, 8, "");
     ExpectListing({good, "A0 00 0B CB 00 00 00 05"}, 8, 8, 8, "ab");
 }

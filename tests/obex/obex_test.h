@@ -31,7 +31,7 @@ protected:
     ObexTest();
     ~ObexTest() override;
 
-    // Gives the canned replies, makes the call, and compares its outcome and all that it sent, with the time-outs.
+    // Queues the canned replies, makes the call, and compares its outcome and all that it sent, with the time-outs.
     void ExpectTurns(const std::vector<Turn>& turns, uint8_t result, uint16_t bits,
                      const std::function<uint8_t()>& call);
     // The same between a connect and a disconnect.

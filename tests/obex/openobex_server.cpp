@@ -129,7 +129,7 @@ void OpenObexServer::SetPath(obex_object_t* object, const std::string& name)
     folder = path;
 }
 
-// A streamed body goes out in Body headers, and an End of Body without data behind them.
+// A streamed body goes out in Body headers, and an End of Body without data after them.
 void OpenObexServer::Get(obex_object_t* object, const std::string& path)
 {
     const auto file = files.find(path);

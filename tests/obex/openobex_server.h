@@ -25,7 +25,7 @@ public:
     simulator::Bytes Answer(simulator::Bytes packet);
 
     std::map<std::string, simulator::Bytes> files;  // by path, as in "a/b/f"
-    std::set<std::string> folders = {""};           // with a slash behind
+    std::set<std::string> folders = {""};           // with a slash at the end
 
 private:
     static void OnEvent(obex_t* self, obex_object_t* object, int mode, int event, int command, int response);

@@ -12,9 +12,25 @@ namespace tandekor::platform
 namespace
 {
 
+// Opens nothing but a plain file: a FIFO or a device could block the call, or react to being opened.
+int OpenPlainFile(const char* path, int flags)
+{
+    struct stat status = {};
+    if (::stat(path, &status) == 0 && !S_ISREG(status.st_mode))
+        return -1;
+    const int file = ::open(path, flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
+    // Another object may have taken the name since.
+    if (file >= 0 && (::fstat(file, &status) != 0 || !S_ISREG(status.st_mode)))
+    {
+        ::close(file);
+        return -1;
+    }
+    return file;
+}
+
 bool WriteToFile(const char* path, int mode, const void* bytes, size_t count)
 {
-    const int file = ::open(path, O_WRONLY | O_CREAT | O_CLOEXEC | mode, 0666);
+    const int file = OpenPlainFile(path, O_WRONLY | O_CREAT | mode);
     if (file < 0)
         return false;
     const auto* next = static_cast<const uint8_t*>(bytes);
@@ -45,7 +61,7 @@ bool FileSize(const char* path, uint64_t* size)
 
 size_t ReadFromFile(const char* path, uint64_t position, void* bytes, size_t count)
 {
-    const int file = ::open(path, O_RDONLY | O_CLOEXEC);
+    const int file = OpenPlainFile(path, O_RDONLY);
     if (file < 0)
         return 0;
     size_t done = 0;

@@ -7,6 +7,7 @@
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace tandekor::platform
@@ -29,9 +30,26 @@ public:
         return ::lstat(name, &status) == 0;
     }
     // Without O_NONBLOCK the open would wait for a carrier that a boot box never gives.
-    int Open() const { return ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); }
+    int Open() const { return HeldByThisProcess() ? -1 : ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); }
 
 private:
+    // Whether one of the process's files is this device: an open would raise its lines before it could be refused.
+    bool HeldByThisProcess() const
+    {
+        struct stat device = {};
+        if (::stat(name, &device) != 0)
+            return false;
+        constexpr long mostFiles = 65536;
+        const long files = std::min(::sysconf(_SC_OPEN_MAX), mostFiles);
+        for (int file = 0; file < files; ++file)
+        {
+            struct stat held = {};
+            if (::fstat(file, &held) == 0 && S_ISCHR(held.st_mode) && held.st_rdev == device.st_rdev)
+                return true;
+        }
+        return false;
+    }
+
     char name[32];
 };
 
@@ -61,6 +79,7 @@ bool ConfigureSerialPort(SerialHandle port)
     if (::tcgetattr(Native(port), &control) != 0)
         return false;
     ::cfmakeraw(&control);
+    control.c_iflag &= ~static_cast<tcflag_t>(IXON | IXOFF | IXANY);
     // One stop bit: one and a half exist here only for five data bits, and no byte is ever sent.
     // Without HUPCL the close leaves the lines alone, and without CRTSCTS the driver does not move RTS by itself.
     control.c_cflag &= ~static_cast<tcflag_t>(HUPCL | CRTSCTS | CSTOPB | PARENB);

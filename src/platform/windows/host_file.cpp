@@ -3,23 +3,38 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include <cstring>
+
 namespace tandekor::platform
 {
 
 namespace
 {
 
-constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE;
-
-// A folder cannot be opened so.
-HANDLE OpenForReading(const char* path)
+// Whether the path is the name of a device, as NUL and COM1 are in every folder.
+bool IsDevice(const char* path)
 {
-    return ::CreateFileA(path, GENERIC_READ, shared, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    char full[MAX_PATH] = {};
+    return ::GetFullPathNameA(path, sizeof full, full, nullptr) < sizeof full && std::strncmp(full, R"(\\.\)", 4) == 0;
+}
+
+// Opens nothing but a plain file: a device could block the call, or react to being opened. A folder cannot be opened
+// so.
+HANDLE OpenPlainFile(const char* path, DWORD access, DWORD disposition)
+{
+    if (IsDevice(path))
+        return INVALID_HANDLE_VALUE;
+    const HANDLE file = ::CreateFileA(path, access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                      disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE || ::GetFileType(file) == FILE_TYPE_DISK)
+        return file;
+    ::CloseHandle(file);
+    return INVALID_HANDLE_VALUE;
 }
 
 bool WriteToFile(const char* path, DWORD access, DWORD disposition, const void* bytes, size_t count)
 {
-    const HANDLE file = ::CreateFileA(path, access, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = OpenPlainFile(path, access, disposition);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     DWORD written = 0;
@@ -29,13 +44,14 @@ bool WriteToFile(const char* path, DWORD access, DWORD disposition, const void* 
 
 }  // namespace
 
+// The attributes can also be read of a file that another program holds for itself, or that must not be read.
 bool FileSize(const char* path, uint64_t* size)
 {
-    const HANDLE file = OpenForReading(path);
+    const HANDLE file = OpenPlainFile(path, FILE_READ_ATTRIBUTES, OPEN_EXISTING);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     LARGE_INTEGER length{};
-    const bool found = ::GetFileType(file) == FILE_TYPE_DISK && ::GetFileSizeEx(file, &length) != 0;
+    const bool found = ::GetFileSizeEx(file, &length) != 0;
     ::CloseHandle(file);
     *size = static_cast<uint64_t>(length.QuadPart);
     return found;
@@ -43,7 +59,7 @@ bool FileSize(const char* path, uint64_t* size)
 
 size_t ReadFromFile(const char* path, uint64_t position, void* bytes, size_t count)
 {
-    const HANDLE file = OpenForReading(path);
+    const HANDLE file = OpenPlainFile(path, GENERIC_READ, OPEN_EXISTING);
     if (file == INVALID_HANDLE_VALUE)
         return 0;
     OVERLAPPED place{};

@@ -15,10 +15,11 @@ HANDLE Native(SerialHandle port) { return reinterpret_cast<HANDLE>(port); }
 
 }  // namespace
 
+// From 10 on a port is found only by its device name.
 SerialHandle OpenSerialPort(uint16_t portNumber)
 {
     char name[16];
-    std::snprintf(name, sizeof name, "COM%d", portNumber);
+    std::snprintf(name, sizeof name, portNumber < 10 ? "COM%d" : R"(\\.\COM%d)", portNumber);
     const HANDLE port = ::CreateFileA(name, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     return port == INVALID_HANDLE_VALUE ? invalidSerialHandle : reinterpret_cast<SerialHandle>(port);
 }
@@ -31,7 +32,9 @@ bool ConfigureSerialPort(SerialHandle port)
     control.BaudRate = 115200;
     control.ByteSize = 8;
     control.Parity = NOPARITY;
-    control.StopBits = 1;  // the code for one and a half stop bits; no byte is ever sent
+    // The code for one and a half stop bits. Most drivers refuse it with eight data bits and then apply nothing of the
+    // block: the port keeps the settings that it had.
+    control.StopBits = 1;
     control.XonLim = 0;
     control.XoffLim = 0;
     control.EofChar = 0;
