@@ -24,6 +24,16 @@ uint8_t OnPhone(ResourceContext h, const char* operation, Action action, const A
     return 1;
 }
 
+// The same, of one that the phone has in FTM mode only.
+template <typename Action, typename... Arguments>
+uint8_t OnPhoneInFtm(ResourceContext h, const char* operation, Action action, const Arguments&... arguments)
+{
+    if (!ReachesInFtm(h, operation, arguments...))
+        return 0;
+    action(ThePhone());
+    return 1;
+}
+
 // What an argument that comes in by pointer holds.
 template <typename Value>
 Value ValueAt(const Value* argument)
@@ -36,37 +46,37 @@ Value ValueAt(const Value* argument)
 // --- audio
 uint8_t QLIB_FTM_AUDIO_SET_PATH(ResourceContext h, uint16_t iAudioDevice)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.audio.path = iAudioDevice; }, iAudioDevice);
 }
 uint8_t QLIB_FTM_AUDIO_SET_VOLUME(ResourceContext h, uint8_t iVolume)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.audio.volume = iVolume; }, iVolume);
 }
 uint8_t QLIB_FTM_AUDIO_PCM_LOOPBACK(ResourceContext h, uint8_t bLoopbackOn)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.audio.loopback = bLoopbackOn != 0; }, bLoopbackOn);
 }
 uint8_t QLIB_FTM_AUDIO_TONES_PLAY(ResourceContext h, uint16_t iHiFreq, uint16_t iLoFreq, uint16_t iMethod)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [](Phone& phone) { phone.audio.tone = true; }, iHiFreq, iLoFreq, iMethod);
 }
 uint8_t QLIB_FTM_AUDIO_TONES_STOP(ResourceContext h)
 {
-    return OnPhone(h, __func__, [](Phone& phone) { phone.audio.tone = false; });
+    return OnPhoneInFtm(h, __func__, [](Phone& phone) { phone.audio.tone = false; });
 }
 uint8_t QLIB_FTM_AUDIO_PCM_CAPTURE(ResourceContext h, uint16_t iNumBuffers, uint32_t iDelay_ms)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [](Phone& phone) { phone.audio.capturing = true; }, iNumBuffers, iDelay_ms);
 }
 // A sawtooth, of which every byte tells its place; nothing without a capture.
 uint8_t QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(ResourceContext h, uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer)
 {
-    if (!Reaches(h, __func__, iDataOffset, iDataSize) || !ThePhone().audio.capturing || pBuffer == nullptr)
+    if (!ReachesInFtm(h, __func__, iDataOffset, iDataSize) || !ThePhone().audio.capturing || pBuffer == nullptr)
         return 0;
     for (uint32_t i = 0; i < iDataSize; ++i)
         static_cast<uint8_t*>(pBuffer)[i] = static_cast<uint8_t>(iDataOffset + i);
@@ -74,11 +84,11 @@ uint8_t QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(ResourceContext h, uint32_t iDataOff
 }
 uint8_t QLIB_FTM_AUDIO_PCM_STOP_CAPTURE(ResourceContext h)
 {
-    return OnPhone(h, __func__, [](Phone& phone) { phone.audio.capturing = false; });
+    return OnPhoneInFtm(h, __func__, [](Phone& phone) { phone.audio.capturing = false; });
 }
 uint8_t QLIB_FTM_AUDIO_SET_CODECTXGAIN_ADJUST(ResourceContext h, int16_t iCodecTxGainAdjust)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.audio.codecTxGain = iCodecTxGainAdjust; }, iCodecTxGainAdjust);
 }
 
@@ -126,35 +136,35 @@ uint8_t QLIB_DIAG_KeyPress_GetNextKeyEvent(ResourceContext h, uint16_t* piKeyPre
 // --- Bluetooth
 uint8_t QLIB_FTM_BT_SetCW(ResourceContext h, uint8_t iChannel)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.bluetooth.cwChannel = iChannel; }, iChannel);
 }
 uint8_t QLIB_FTM_BT_HCI_USER_CMD(ResourceContext h, const uint8_t* pBuffer, uint8_t iLength)
 {
-    return OnPhone(
-        h, __func__, [](Phone&) {}, BytesAt(pBuffer, iLength), iLength);
+    const auto report = [&](Phone&) { ReportNoEffect("QLIB_FTM_BT_HCI_USER_CMD"); };
+    return OnPhoneInFtm(h, "QLIB_FTM_BT_HCI_USER_CMD", report, BytesAt(pBuffer, iLength), iLength);
 }
 uint8_t QLIB_FTM_BT_SetAddr(ResourceContext h, const uint8_t* iAddr)
 {
     const Bytes address = BytesAt(iAddr, btAddressLength);
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.bluetooth.address = address; }, address);
 }
 uint8_t QLIB_FTM_BT_Enable_Bluetooth(ResourceContext h)
 {
-    return OnPhone(h, __func__, [](Phone& phone) { phone.bluetooth.enabled = true; });
+    return OnPhoneInFtm(h, __func__, [](Phone& phone) { phone.bluetooth.enabled = true; });
 }
 uint8_t QLIB_BT_GetModuleVersion(ResourceContext h, void* pModuleVersion)
 {
-    return OnPhone(h, __func__,
-                   [&](Phone& phone) { Put(static_cast<uint8_t*>(pModuleVersion), phone.bluetooth.moduleVersion); });
+    return OnPhoneInFtm(
+        h, __func__, [&](Phone& phone) { Put(static_cast<uint8_t*>(pModuleVersion), phone.bluetooth.moduleVersion); });
 }
 
 // --- charger, drivers and clock
 uint8_t QLIB_FTM_PMIC_CHG_SET_SWITCH_STATE(ResourceContext h, uint32_t iChargerSwitchType,
                                            uint8_t iChargerSwitchCommand)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.charger.switches[iChargerSwitchType] = iChargerSwitchCommand; },
         iChargerSwitchType, iChargerSwitchCommand);
 }
@@ -166,18 +176,18 @@ uint8_t QLIB_FTM_PMIC_CONFIG_WALL_CHGR_TRANSISTOR_LIMITS(ResourceContext h, uint
         phone.charger.maxCurrent = iChargerMaxCurrent;
         phone.charger.maxVoltage = iChargerMaxVoltage;
     };
-    return OnPhone(h, __func__, keep, iChargerMaxCurrent, iChargerMaxVoltage);
+    return OnPhoneInFtm(h, __func__, keep, iChargerMaxCurrent, iChargerMaxVoltage);
 }
 uint8_t QLIB_FTM_PMIC_INT_GET_RT_STATUS(ResourceContext h, uint32_t iInterruptStatusId, uint8_t* piInterruptStatus)
 {
-    if (!Reaches(h, __func__, iInterruptStatusId) || iInterruptStatusId != transistorStatusId)
+    if (!ReachesInFtm(h, __func__, iInterruptStatusId) || iInterruptStatusId != transistorStatusId)
         return 0;
     Put(piInterruptStatus, ThePhone().charger.switches[readableTransistor]);
     return 1;
 }
 uint8_t QLIB_FTM_SET_PMIC_DRIVE_LEVEL(ResourceContext h, uint8_t iDriver, uint8_t iLevel)
 {
-    return OnPhone(
+    return OnPhoneInFtm(
         h, __func__, [&](Phone& phone) { phone.charger.driveLevels[iDriver] = iLevel; }, iDriver, iLevel);
 }
 uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext h, uint8_t iReadWrite, uint8_t* iTimeMode, uint8_t* iMonth,
@@ -200,8 +210,8 @@ uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext h, uint8_t iReadWrite, ui
         Put(iMinute, phone.clock.minute);
         Put(iSecond, phone.clock.second);
     };
-    return OnPhone(h, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode), given.month, given.day, given.year,
-                   given.hour, given.minute, given.second);
+    return OnPhoneInFtm(h, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode), given.month, given.day, given.year,
+                        given.hour, given.minute, given.second);
 }
 
 // --- camera
@@ -212,7 +222,7 @@ uint8_t QLIB_FTM_CAMERA_SET_SENSOR_ID(ResourceContext h, uint8_t iCamNum, uint32
         phone.camera.sensor = iCamNum;
         Put(piCameraStatus, phone.camera.status);
     };
-    return OnPhone(h, __func__, choose, iCamNum);
+    return OnPhoneInFtm(h, __func__, choose, iCamNum);
 }
 uint8_t QLIB_FTM_CAMERA_START(ResourceContext h, uint32_t* piCameraStatus)
 {
@@ -221,7 +231,7 @@ uint8_t QLIB_FTM_CAMERA_START(ResourceContext h, uint32_t* piCameraStatus)
         phone.camera.running = true;
         Put(piCameraStatus, phone.camera.status);
     };
-    return OnPhone(h, __func__, start);
+    return OnPhoneInFtm(h, __func__, start);
 }
 uint8_t QLIB_FTM_CAMERA_STOP(ResourceContext h, uint32_t* piCameraStatus)
 {
@@ -230,5 +240,5 @@ uint8_t QLIB_FTM_CAMERA_STOP(ResourceContext h, uint32_t* piCameraStatus)
         phone.camera.running = false;
         Put(piCameraStatus, phone.camera.status);
     };
-    return OnPhone(h, __func__, stop);
+    return OnPhoneInFtm(h, __func__, stop);
 }

@@ -8,11 +8,11 @@ using namespace simulator;
 namespace
 {
 
-// The entry of an operation that only a phone in FTM mode takes; what it does then.
+// An operation that only a phone in FTM mode takes, and what it does then.
 template <typename Action, typename... Arguments>
 uint8_t InFtm(ResourceContext h, const char* operation, Action action, const Arguments&... arguments)
 {
-    if (!Reaches(h, operation, arguments...) || ThePhone().mode != Mode::Ftm)
+    if (!ReachesInFtm(h, operation, arguments...))
         return 0;
     action();
     return 1;

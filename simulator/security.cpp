@@ -38,17 +38,19 @@ void Report(uint32_t event, uint32_t value)
         progress(record);
 }
 
-// An upload of some size that takes its time, told event by event. Only the QPST mode of the library has it.
-uint8_t RunUpload()
+// An upload of some size that takes its time, told event by event. Only the QPST mode of the library has it. What the
+// arguments mean is not known here, so no file is read, and the log's file says so.
+uint8_t RunUpload(const std::string& operation)
 {
     const UploadScript& upload = ThePhone().upload;
     if (!TheState().library.version.ends_with("QPST"))
         return 0;
+    ReportNoEffect("the file of " + operation);
     Report(statusEvent, 1);
     Report(totalEvent, upload.totalSize);
     for (uint32_t step = 1; step <= upload.steps; ++step)
     {
-        tandekor::platform::Sleep(upload.stepTimeMs);
+        TakeTime(upload.stepTimeMs);
         Report(progressEvent, static_cast<uint32_t>(uint64_t{upload.totalSize} * step / upload.steps));
     }
     Report(lastStatusEvent, upload.lastStatus);
@@ -136,11 +138,11 @@ void QLIB_ConfigureCallBacks(ResourceContext h, void* pFirst, QlibUploadCallback
 }
 uint8_t QLIB_UploadCEFS_File2(ResourceContext h, QlibUploadArgument a1, QlibUploadArgument a2, QlibUploadArgument a3)
 {
-    return Reaches(h, __func__, a1, a2, a3) ? RunUpload() : uint8_t{0};
+    return Reaches(h, __func__, a1, a2, a3) ? RunUpload(__func__) : uint8_t{0};
 }
 uint8_t QLIB_UploadCEFS_File(ResourceContext h, QlibUploadArgument a1, QlibUploadArgument a2)
 {
-    return Reaches(h, __func__, a1, a2) ? RunUpload() : uint8_t{0};
+    return Reaches(h, __func__, a1, a2) ? RunUpload(__func__) : uint8_t{0};
 }
 uint8_t QLIB_UploadMultiImage(ResourceContext h, QlibUploadArgument a1, QlibUploadArgument a2, QlibUploadArgument a3,
                               QlibUploadArgument a4, QlibUploadArgument a5, QlibUploadArgument a6,
@@ -153,6 +155,6 @@ uint8_t QLIB_UploadMultiImage(ResourceContext h, QlibUploadArgument a1, QlibUplo
 {
     return Reaches(h, __func__, a1, a2, a3, a4, a5, a6, a7, a8, a9, a10, a11, a12, a13, a14, a15, a16, a17, a18, a19,
                    a20, a21, a22, a23)
-               ? RunUpload()
+               ? RunUpload(__func__)
                : uint8_t{0};
 }
