@@ -81,7 +81,7 @@ int main(int count, char** arguments)
 
     TANDEKOR_AT_2_OBEX(handle, &status);
     PHONE_Refuse("QLIB_SendRAW", 6);
-    TANDEKOR_OBEX_GetFile(handle, "Pictures/Holiday", "beach.jpg", folder, &obexError);
+    TANDEKOR_OBEX_GetFile(handle, "Pictures\\Holiday\\", "beach.jpg", folder, &obexError);
     Expect(obexError == TANDEKOR_OBEX_GET_FAILED, "the transfer breaks off");
     remove(path);
 

@@ -44,7 +44,7 @@ assert charge.value == 0
 
 library.TANDEKOR_AT_2_OBEX(handle, ctypes.byref(status))
 run(b"obex-response 0x83 0xD3")
-library.TANDEKOR_OBEX_GetFile(handle, b"Pictures/Holiday", b"beach.jpg", b"/nowhere/", ctypes.byref(status))
+library.TANDEKOR_OBEX_GetFile(handle, b"Pictures\\Holiday\\", b"beach.jpg", b"/nowhere/", ctypes.byref(status))
 assert status.value == 32, status.value
 assert host.PHONE_Run(b"set batery 0") == 0 and b"batery" in host.PHONE_LastError()
 

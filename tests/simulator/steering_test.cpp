@@ -96,7 +96,7 @@ TEST_F(SteeringTest, WrongLinesAreRefusedWithTheReason)
         EXPECT_EQ(PHONE_Run(row.line), 0) << row.line;
         EXPECT_STREQ(PHONE_LastError(), row.error);
     }
-    EXPECT_EQ(TANDEKOR_CheckConnection(handle), 1) << "nothing was changed";
+    EXPECT_EQ(QLIB_IsPhoneConnected(handle), 1) << "nothing was changed";
 }
 
 TEST_F(SteeringTest, EveryModelIsToldByTheLibrary)
