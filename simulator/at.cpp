@@ -16,6 +16,13 @@ std::string AnswerText(const AtCommand& command, const std::string& text)
     return command.kind == AtCommand::Kind::Execute ? Answer(text) : Refused(operationNotAllowed);
 }
 
+// For a command of which nothing could be read back.
+std::string Accept(const AtCommand& command)
+{
+    ReportNoEffect("AT" + command.name);
+    return Done();
+}
+
 // Commands that are more than a setting.
 struct Special
 {
@@ -24,9 +31,9 @@ struct Special
 };
 constexpr Special specials[] = {
     {"", [](const AtCommand&) { return Done(); }},
-    {"+CHLD", [](const AtCommand&) { return Done(); }},
-    {"+CHUP", [](const AtCommand&) { return Done(); }},
-    {"+CRMP", [](const AtCommand&) { return Done(); }},
+    {"+CHLD", Accept},
+    {"+CHUP", Accept},
+    {"+CRMP", Accept},
     {"^SMSO",
      [](const AtCommand&)
      {
@@ -39,6 +46,9 @@ constexpr Special specials[] = {
     {"+GSN", [](const AtCommand& command) { return AnswerText(command, SerialNumber()); }},
     {"+CCLK", AnswerClock},
     {"+CREG", AnswerRegistration},
+    {"+CGREG", AnswerRegistration},
+    {"+COPS", AnswerOperator},
+    {"+CSQ", AnswerSignal},
     {"+CCFC", AnswerForwarding},
     {"+CCWA", AnswerCallWaiting},
     {"+CKPD", PressKeys},
@@ -69,6 +79,21 @@ constexpr Form forms[] = {
     {"^SICO", AtCommand::Kind::Read, "^SICO: 0, "}, {"^SIFS", AtCommand::Kind::Execute, "^SIFS: "},
 };
 
+// What +CMEE=2 has in the place of the numbers.
+struct ErrorText
+{
+    int number;
+    const char* text;
+};
+constexpr ErrorText errorTexts[] = {
+    {operationNotAllowed, "operation not allowed"},
+    {operationNotSupported, "operation not supported"},
+    {pukWanted, "SIM PUK required"},
+    {incorrectPassword, "incorrect password"},
+    {incorrectParameters, "incorrect parameters"},
+    {invalidMessageIndex, "invalid memory index"},
+};
+
 AtCommand CommandOf(const std::string& text)
 {
     const std::string name = text.substr(0, text.find_first_of("?="));
@@ -96,12 +121,10 @@ void Keep(std::string& setting, const std::string& value)
         const bool text = fields[i].starts_with('"');
         fields[i] = text ? Quoted(Unquoted(given[i])) : Unquoted(given[i]);
     }
-    setting.clear();
-    for (const std::string& field : fields)
-        setting += (setting.empty() ? "" : ",") + field;
+    setting = Joined(fields);
 }
 
-// What the phone says behind its echo.
+// What the phone says after its echo.
 std::string ResultOf(const std::string& text)
 {
     if (text == "E0" || text == "E1")
@@ -127,9 +150,12 @@ std::string Answer(const std::string& lines) { return "\r\n" + lines + "\r\n" + 
 
 std::string Refused(int number, const char* kind)
 {
-    if (ThePhone().atSettings["+CMEE"] == "0")
+    const std::string& wanted = ThePhone().atSettings["+CMEE"];
+    if (wanted == "0")
         return "\r\nERROR";
-    return std::string("\r\n") + kind + " ERROR: " + std::to_string(number);
+    const auto* text = wanted == "2" ? std::ranges::find(errorTexts, number, &ErrorText::number) : std::end(errorTexts);
+    const std::string what = text == std::end(errorTexts) ? std::to_string(number) : text->text;
+    return std::string("\r\n") + kind + " ERROR: " + what;
 }
 
 std::vector<std::string> FieldsOf(const std::string& text)
@@ -145,6 +171,14 @@ std::vector<std::string> FieldsOf(const std::string& text)
             fields.back() += character;
     }
     return fields;
+}
+
+std::string Joined(const std::vector<std::string>& fields)
+{
+    std::string text = fields[0];
+    for (size_t i = 1; i < fields.size(); ++i)
+        text += ',' + fields[i];
+    return text;
 }
 
 std::string FieldAt(const std::vector<std::string>& fields, size_t index, const char* missing)
@@ -167,7 +201,7 @@ std::string AnswerSetting(const AtCommand& command)
     const auto* form = std::ranges::find(forms, command.name, &Form::name);
     const bool formed = form != std::end(forms);
     if (setting == settings.end() || command.kind == AtCommand::Kind::Other)
-        return Refused(operationNotAllowed);
+        return Refused(operationNotSupported);
     const bool list = setting->second.find('\r') != std::string::npos;
     if (command.kind == (formed ? form->asked : AtCommand::Kind::Read))
         return Answer((formed ? form->prefix : command.name + ": ") + setting->second);
@@ -236,7 +270,7 @@ std::map<std::string, std::string> FreshAtSettings()
 }
 
 // Echo, and a result without anything behind its last word. A request that is no whole command gets no answer.
-Bytes AnswerAt(const Bytes& request)
+std::optional<Bytes> AnswerAt(const Bytes& request)
 {
     const Phone& phone = ThePhone();
     if (phone.obexMode)
@@ -246,7 +280,7 @@ Bytes AnswerAt(const Bytes& request)
         return {};
     std::string reply = phone.atEcho ? text + '\r' : "";
     reply += ResultOf(text.substr(2));
-    return {reply.begin(), reply.end()};
+    return Bytes(reply.begin(), reply.end());
 }
 
 }  // namespace simulator

@@ -28,10 +28,11 @@ struct AtCommand
 // Replies without their echo, up to the last character of the result word.
 std::string Done();
 std::string Answer(const std::string& lines);  // lines are parted by "\r\n"
-// ERROR, or with +CMEE set the number by TS 27.007 (kind "+CME") or TS 27.005 ("+CMS").
+// ERROR, or with +CMEE set the number or the text by TS 27.007 (kind "+CME") or TS 27.005 ("+CMS").
 std::string Refused(int number, const char* kind = "+CME");
 
 constexpr int operationNotAllowed = 3;
+constexpr int operationNotSupported = 4;
 constexpr int incorrectPassword = 16;
 constexpr int pukWanted = 12;
 constexpr int incorrectParameters = 50;
@@ -39,6 +40,7 @@ constexpr int invalidMessageIndex = 321;
 
 // The fields of a parameter text, parted by commas outside quotes. No text has one empty field.
 std::vector<std::string> FieldsOf(const std::string& text);
+std::string Joined(const std::vector<std::string>& fields);
 std::string FieldAt(const std::vector<std::string>& fields, size_t index, const char* missing = "");
 std::string Quoted(const std::string& text);
 std::string Unquoted(const std::string& field);
@@ -49,6 +51,8 @@ std::string AnswerSetting(const AtCommand& command);
 // Commands that are more than a setting, by their subject.
 std::string AnswerClock(const AtCommand& command);         // at_services.cpp
 std::string AnswerRegistration(const AtCommand& command);  // "
+std::string AnswerOperator(const AtCommand& command);      // "
+std::string AnswerSignal(const AtCommand& command);        // "
 std::string AnswerForwarding(const AtCommand& command);    // "
 std::string AnswerCallWaiting(const AtCommand& command);   // "
 std::string PressKeys(const AtCommand& command);           // "

@@ -70,17 +70,51 @@ std::string AnswerClock(const AtCommand& command)
     return Answer(text);
 }
 
+namespace
+{
+
+bool HasNetwork() { return ThePhone().mode == Mode::Online; }
+
+constexpr char notRegistered[] = "0";
+
+}  // namespace
+
 // Location area and cell are shown with the reports that include them, in the two characters each that are read of
-// them.
+// them. Without a network the phone is not registered, whatever its setting says.
 std::string AnswerRegistration(const AtCommand& command)
 {
-    const std::string& setting = ThePhone().atSettings["+CREG"];
-    if (command.Reads() && setting.starts_with('2'))
-        return Answer("+CREG: " + setting + ",1A,2B");
+    if (!command.Reads() || !ThePhone().atSettings.contains(command.name))
+        return AnswerSetting(command);
+    std::vector<std::string> fields = FieldsOf(ThePhone().atSettings[command.name]);
+    if (!HasNetwork() && fields.size() > 1)
+        fields[1] = notRegistered;
+    else if (fields[0] == "2" && command.name == "+CREG")
+        fields.insert(fields.end(), {"1A", "2B"});
+    return Answer(command.name + ": " + Joined(fields));
+}
+
+// Mode 3 sets the format alone. Without a network there is no operator to show.
+std::string AnswerOperator(const AtCommand& command)
+{
+    constexpr char setFormat[] = "3";
+    const std::vector<std::string> given = FieldsOf(command.value);
+    if (command.Sets() && given[0] == setFormat)
+        return given.size() == 2 ? AnswerSetting({command.name, command.kind, ',' + given[1]})
+                                 : Refused(incorrectParameters);
+    if (command.Reads() && !HasNetwork() && ThePhone().atSettings.contains(command.name))
+        return Answer(command.name + ": " + FieldsOf(ThePhone().atSettings[command.name])[0]);
     return AnswerSetting(command);
 }
 
-// The number of a forwarding is given out without quotes, and the time right behind the type.
+std::string AnswerSignal(const AtCommand& command)
+{
+    constexpr char notKnown[] = "99,99";
+    if (command.kind == AtCommand::Kind::Execute && !HasNetwork() && ThePhone().atSettings.contains(command.name))
+        return Answer(command.name + ": " + notKnown);
+    return AnswerSetting(command);
+}
+
+// The number of a forwarding is given out without quotes, and the time right after the type.
 std::string AnswerForwarding(const AtCommand& command)
 {
     const std::vector<std::string> fields = FieldsOf(command.value);  // reason, mode, number, type, class, time

@@ -42,6 +42,7 @@ bool Tell(tandekor::platform::SerialHandle port, const std::string& event)
 void Reset()
 {
     TheState() = State();
+    TheState().mostRecorded = everything;
     TheClock() = Clock();
     TheBootBox() = BootBox();
 }
@@ -57,7 +58,11 @@ uint32_t TickCount() { return TheClock().now; }
 
 void Sleep(uint32_t milliseconds)
 {
-    TheClock().sleeps.push_back(milliseconds);
+    if (!TheState().phoneTakesTime)
+    {
+        TheClock().sleeps.push_back(milliseconds);
+        Keep(TheState().timeline, "Sleep(" + std::to_string(milliseconds) + ')');
+    }
     if (const auto action = TheClock().onSleep)
         action(milliseconds);
     TheClock().now += milliseconds;

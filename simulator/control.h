@@ -19,8 +19,17 @@ namespace simulator
 using Bytes = std::vector<uint8_t>;
 
 // Puts everything back to the state in which a process finds it: a fresh phone, no connection, nothing scripted,
-// nothing recorded, the clock at its start, the boot box closed.
+// nothing recorded, the clock at its start, the boot box closed. From then on everything is recorded.
 void Reset();
+
+// Puts back the phone, the scripts and the records, and leaves the connections, the log's file and the clock as they
+// are.
+void ResetPhone();
+
+// How many calls, exchanges and log texts are kept: after twice as many the older half is dropped. 0 keeps none. A
+// process begins with 1,000.
+constexpr size_t everything = SIZE_MAX;
+void Record(size_t most);
 
 // --- the phone
 
@@ -30,6 +39,9 @@ enum class Mode : uint8_t
     Online,
     Ftm
 };
+
+// The NV items of a fresh phone.
+std::map<uint16_t, Bytes> FreshNvItems();
 
 // What a fresh phone answers to AT queries.
 std::map<std::string, std::string> FreshAtSettings();
@@ -55,6 +67,9 @@ struct SimulatedMessage
     std::string pdu;  // as hexadecimal digits, with the service centre's address in front
 };
 
+// The files of a fresh SIM card: hexadecimal digits by number of the file.
+std::map<uint16_t, std::string> FreshSimFiles();
+
 // The SIM card.
 struct SimCard
 {
@@ -62,9 +77,7 @@ struct SimCard
     std::string puk = "12345678";
     bool waitsForPin = false;
     int attemptsLeft = 3;  // at the PIN; with none left the PUK is wanted
-    // Hexadecimal digits by number of the file.
-    std::map<uint16_t, std::string> files
-        = {{12258, "98942000002143658709"}, {28423, "082926108967452301"}, {28589, "00000002"}};
+    std::map<uint16_t, std::string> files = FreshSimFiles();
 };
 
 // The messages of a fresh phone: one unread, one unsent.
@@ -73,45 +86,30 @@ std::map<uint32_t, SimulatedMessage> FreshMessages();
 // Made fresh it is a phone of model 52, on and online.
 struct Phone
 {
+    Phone();  // texts and numbers that are not 0 stand in fresh_phone.cpp
+
     bool on = true;  // has power; while it starts it does not answer yet
     Mode mode = Mode::Online;
     bool atEcho = true;
     bool obexMode = false;             // the port talks OBEX, and AT commands are not answered
     bool switchesModeDirectly = true;  // false: mode commands 3 and 4 are accepted without effect
     bool goesOffline = true;           // false: mode command 0 is accepted without effect
-    uint32_t startTimeMs = 4000;       // from power or reset to the first answer
-    uint32_t runOnTimeMs = 500;        // how long it lives on after its supply was dropped
-    // Content by item number. 453: the mode in which the phone starts, 1 FTM; 447: Bluetooth address; 550: IMEI.
-    // The receiver of its one WCDMA band: 856 gain; 519, 859, 860 and 520, 861, 862 thresholds; 524, 865, 866 offsets;
-    // and 2499 of the GSM receiver.
-    std::map<uint16_t, Bytes> nvItems = {
-        {447, {0x01, 0x02, 0x03, 0xA0, 0xB0, 0xC0}},
-        {453, {0}},
-        {519, {0x38, 0xFF}},
-        {520, {0x24, 0xFF}},
-        {524, {0x78, 0x00}},
-        {550, {0x08, 0x4A, 0x09, 0x51, 0x24, 0x30, 0x32, 0x57, 0x81}},
-        {856, {0x0C, 0x00}},
-        {859, {0x60, 0xFF}},
-        {860, {0x88, 0xFF}},
-        {861, {0x4C, 0xFF}},
-        {862, {0x74, 0xFF}},
-        {865, {0xF0, 0x00}},
-        {866, {0x68, 0x01}},
-        {2499, Bytes(128)},
-    };
+    uint32_t startTimeMs = 0;          // from power or reset to the first answer
+    uint32_t latencyMs = 0;            // what each answer takes
+    uint32_t runOnTimeMs = 0;          // how long it lives on after its supply was dropped
+    // Content by item number.
+    std::map<uint16_t, Bytes> nvItems = FreshNvItems();
     std::map<uint16_t, uint16_t> nvStatus;  // status by item number, where it is not 0: the item is refused with it
     std::map<uint32_t, uint8_t> memory;     // bytes by address; what is not there reads as 0
-    std::string buildId = "T52-02.04.15", buildModel = "T52";
-    uint32_t msmHardwareVersion = 0x405;
-    uint32_t buildMobModel = 52;
-    std::string compileDate = "Mar 14 2007", compileTime = "09:26:53";
-    std::string releaseDate = "Mar 15 2007", releaseTime = "10:00:00", versionDir = "T52_0204";
-    uint32_t hardwareVersion = 0x405000;  // factory request 10; bits 12 to 27 hold the chip's version
-    uint16_t hardwareId = 0;              // factory request 29
-    uint16_t nandFlashId = 0xECA1;
-    uint8_t fuelGaugeVersion = 3;
-    std::string spc = "000000";  // service programming code
+    std::string buildId, buildModel;
+    uint32_t msmHardwareVersion = 0;
+    uint32_t buildMobModel = 0;
+    std::string compileDate, compileTime, releaseDate, releaseTime, versionDir;
+    uint32_t hardwareVersion = 0;  // factory request 10; bits 12 to 27 hold the chip's version
+    uint16_t hardwareId = 0;       // factory request 29
+    uint16_t nandFlashId = 0;
+    uint8_t fuelGaugeVersion = 0;
+    std::string spc;  // service programming code
     // What the factory requests and host operations reach, by subject.
     Radio radio;
     TestCalls testCalls;
@@ -129,7 +127,7 @@ struct Phone
     int64_t clockAhead = 0;  // seconds by which its clock (+CCLK) is ahead of the calendar
     int clockZone = 0;       // quarters of an hour
     SimCard card;
-    std::map<std::string, bool> locks = {{"AO", false}, {"AI", false}, {"PN", false}, {"SC", false}};  // by facility
+    std::map<std::string, bool> locks;  // by facility
     // By reason, 0 to 5: state, class, and where a number is registered number, type and time.
     std::map<std::string, std::string> forwardings;
     bool callWaiting = false;
@@ -137,11 +135,15 @@ struct Phone
     std::map<uint32_t, SimulatedMessage> messages = FreshMessages();  // by place
     // The file server, on the port in OBEX mode. Files and folders by path, as in "Pictures/Holiday/beach.jpg".
     std::map<std::string, SimulatedFile> files = FreshFiles();
-    uint32_t storageSize = 16 * 1024 * 1024;      // what no file takes up is free
+    uint32_t storageSize = 0;                     // what no file takes up is free
     bool announcesLength = true;                  // the first reply to a Get has a Length header
     std::map<uint8_t, uint8_t> obexResponses;     // response code by operation byte, where it is not carried out
     std::function<Bytes(const Bytes&)> obexPeer;  // answers the packets in the place of the phone's own server
 };
+
+// A fresh phone of a model, or nothing for a number that no model has. BecomeModel only changes what tells the model.
+std::optional<Phone> MakePhone(uint32_t model);
+bool BecomeModel(Phone& phone, uint32_t model);
 
 // The phone as it stands at this moment, to look at and to change. The reference stays good, but what time does to the
 // phone (start, end of supply) shows only with the next call.
@@ -166,9 +168,16 @@ struct Reply
     Bytes bytes;
     uint8_t result = 1;
     std::optional<uint16_t> claimedLength;
+    std::string operation = {};  // serves its exchanges only; empty: those of both
 };
 void QueueReply(const Reply& reply);   // each reply serves one exchange, first in, first out
 void RepeatReply(const Reply& reply);  // serves every exchange for which no reply is queued, until Reset
+
+// The next exchanges, of either operation, are not answered, and each costs its time-out. UINT32_MAX: all of them.
+void Silence(uint32_t exchanges);
+
+// Whether the host library has an operation of this name that is recorded and can be refused.
+bool IsOperation(const std::string& name);
 
 // Refusal: the call is recorded, has no effect and gives 0. Calls count from 1, from now on. Calls of the text log
 // operations are neither recorded nor refused.
@@ -185,8 +194,8 @@ void BeforeCall(const std::string& operation, int n, std::function<void()> actio
 // behind the handle, numbers in decimal, texts in double quotes, bytes in hexadecimal, what an opaque pointer points to
 // as 1 or, for null, 0; out-arguments and capacities left out.
 const std::vector<std::string>& Calls();
-int CountCalls(const std::string& operation);
-void ForgetCalls();  // and the exchanges
+int CountCalls(const std::string& operation);  // all of them, also those that are not kept
+void ForgetCalls();                            // and the exchanges
 
 struct Exchange
 {
@@ -208,9 +217,29 @@ struct LogFlagsChange
     bool operator==(const LogFlagsChange&) const = default;
 };
 const std::vector<std::string>& LogTexts();
+// What each text was given with.
+struct LogArguments
+{
+    ResourceContext handle;
+    uint32_t level;
+    uint32_t last;
+
+    bool operator==(const LogArguments&) const = default;
+};
+const std::vector<LogArguments>& LogTextArguments();
 std::optional<uint32_t> LogFlags();
 const std::vector<LogFlagsChange>& LogFlagsChanges();
 void ForgetLog();  // texts and changes of the flags
+
+// Calls, log texts and the library's waits in one list, as they came: "QLIB_DIAG_CONTROL_F(2)", the text,
+// "Sleep(1000)". Waits are known on the played clock only.
+const std::vector<std::string>& Timeline();
+void ForgetTimeline();
+
+// --- scripts: the verbs of tandekor/simulator.h, one a line, as docs/simulator.md shows them
+
+// Carries out the lines of a file up to the first that is wrong. Empty for success, else "FILE:LINE: what is wrong".
+std::string RunScript(const std::string& path);
 
 // --- played clock and boot box, in programs that are linked with them
 

@@ -24,7 +24,7 @@ constexpr uint16_t noDevice = 3;  // no such device, channel or file
 constexpr uint8_t sleepUntilPowerCycle = 3;
 constexpr uint16_t carrierToNoise = 45;
 
-// Fields one behind the other, each low byte first.
+// Fields one after the other, each low byte first.
 template <typename... Values>
 Bytes Fields(Values... values)
 {
@@ -46,12 +46,13 @@ uint16_t WordOf(Data data, size_t at) { return static_cast<uint16_t>(data[at] | 
 uint32_t DwordOf(Data data, size_t at) { return WordOf(data, at) | uint32_t{WordOf(data, at + 2)} << 16; }
 std::string TextOf(Data data) { return {data.begin(), std::ranges::find(data, uint8_t{0})}; }
 
-Bytes Behind(Bytes fields, const Bytes& more)
+Bytes Concat(Bytes fields, const Bytes& more)
 {
     fields.insert(fields.end(), more.begin(), more.end());
     return fields;
 }
 
+// For a command of which nothing could be read back. It is reported.
 Bytes Accept(Data) { return Fields(good); }
 
 Bytes FuelGaugeVersion(Data) { return Fields(good, ThePhone().fuelGaugeVersion); }
@@ -86,7 +87,7 @@ Bytes AccessI2c(Data data)
     }
     Bytes content = device == devices.end() ? Bytes() : device->second;
     content.resize(length);
-    return Behind(Fields(device == devices.end() && length > 0 ? noDevice : good), content);
+    return Concat(Fields(device == devices.end() && length > 0 ? noDevice : good), content);
 }
 
 Bytes SumAdc(Data data)
@@ -114,7 +115,7 @@ Bytes AccessCard(Data data)
     const auto file = card.find(name);
     if (file == card.end() || file->second.size() < length)
         return Fields(noDevice);
-    return Behind(Fields(good), Bytes(file->second.begin(), file->second.begin() + static_cast<ptrdiff_t>(length)));
+    return Concat(Fields(good), Bytes(file->second.begin(), file->second.begin() + static_cast<ptrdiff_t>(length)));
 }
 
 Bytes AccessFactoryData(Data data)
@@ -140,7 +141,7 @@ Bytes WriteLinearizer(Data data)
 Bytes WriteKcFile(Data data)
 {
     ThePhone().factory.kcFile = Bytes(data.begin() + 3, data.begin() + 12);
-    return Behind(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile);
+    return Concat(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile);
 }
 
 // The reply block begins with the status; positions count from behind the header.
@@ -178,7 +179,11 @@ Bytes TuneFm(Data data)
 
 Bytes ShowImage(Data data)
 {
-    ThePhone().factory.image = TextOf(data.first(128));
+    const std::string name = TextOf(data.first(128));
+    const auto file = ThePhone().files.find(name);
+    if (file == ThePhone().files.end() || file->second.folder)
+        return Fields(noDevice);
+    ThePhone().factory.image = name;
     return Fields(good);
 }
 
@@ -204,7 +209,7 @@ Bytes KeepByte(Data data)
     ThePhone().factory.*member = data[0];
     return Fields(good);
 }
-// The same, with a status of one byte behind the 16-bit word of the others' status.
+// The same, with a status of one byte after the 16-bit word of the others' status.
 Bytes KeepBacklight(Data data)
 {
     ThePhone().factory.backlight = data[0];
@@ -226,7 +231,7 @@ constexpr Command commands[] = {
     {factory::ConfigureSwitch, 3, Accept},
     {factory::I2cDataAccess, 7, AccessI2c},
     {factory::MgetAdcVal, 4, SumAdc},
-    {factory::SimReadImsi, 0, [](Data) { return Behind(Fields(good), ThePhone().factory.imsi); }},
+    {factory::SimReadImsi, 0, [](Data) { return Concat(Fields(good), ThePhone().factory.imsi); }},
     {factory::MmcFileAccess, 133, AccessCard},
     {factory::SetLowPowerMode, 1, EnterLowPowerMode},
     {factory::ReadWriteFactoryData, 3, AccessFactoryData},
@@ -263,7 +268,7 @@ constexpr Command commands[] = {
     {factory::FmRadioBlock, 101, FmBlock},
     {factory::SimGetMode, 0, [](Data) { return Fields(uint16_t{ThePhone().factory.simMode}); }},
     {factory::SimReadKcFile, 0,
-     [](Data) { return Behind(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile); }},
+     [](Data) { return Concat(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile); }},
     {factory::SimWriteKcFile, 12, WriteKcFile},
     {factory::GetCameraIdString, 0, CameraIdentification},
     {factory::GgReadReg, 4, ReadFuelGauge},
@@ -311,6 +316,8 @@ Bytes FieldsOf(const Bytes& request)
     }
     if (request.size() < headerLength + command->dataLength)
         return Fields(tooShort);
+    if (command->fields == Accept)
+        ReportNoEffect("factory request " + Shown(command->request.requestId));
     return command->fields(Data(request).subspan(headerLength));
 }
 
@@ -329,29 +336,29 @@ Bytes AnswerPin(const Bytes& request)
     switch (operation)
     {
         case 0:
-            return Behind(header, Fields(pin.out, pinGood));
+            return Concat(header, Fields(pin.out, pinGood));
         case 2:
-            return Behind(header, Fields(pin.in, pinGood));
+            return Concat(header, Fields(pin.in, pinGood));
         case 3:
-            return Behind(header, Fields(pin.outputEnabled, pinGood));
+            return Concat(header, Fields(pin.outputEnabled, pinGood));
         case 5:
-            return Behind(header,
+            return Concat(header,
                           Fields(configuration[0], configuration[1], configuration[2], configuration[3], pinGood));
         case 1:
         case 4:
             if (data.size() < 2)
                 break;
             (operation == 1 ? pin.out : pin.outputEnabled) = data[1];
-            return Behind(header, Fields(pinGood));
+            return Concat(header, Fields(pinGood));
         case 6:
             if (data.size() < 5)
                 break;
             std::copy_n(data.begin() + 1, 4, pin.configuration.begin());
-            return Behind(header, Fields(pinGood));
+            return Concat(header, Fields(pinGood));
         default:
             break;
     }
-    return Behind(header, Fields(uint8_t{1}));
+    return Concat(header, Fields(uint8_t{1}));
 }
 
 // A raw write of words to the phone's memory: address, count, words. The reply repeats the request.
@@ -368,7 +375,7 @@ Bytes PokeMemory(const Bytes& request)
 
 }  // namespace
 
-Bytes AnswerDiagnostic(const Bytes& request)
+std::optional<Bytes> AnswerDiagnostic(const Bytes& request)
 {
     constexpr uint8_t pokeDword = 5;
     constexpr uint8_t subsystemCommand = 75;
@@ -382,13 +389,15 @@ Bytes AnswerDiagnostic(const Bytes& request)
     if (reply.size() < 2 || reply[0] != subsystemCommand || reply[1] != ftmSubsystem)
     {
         ReportNotSimulated("the diagnostic request " + Shown(reply));
-        return {};
+        return Bytes();
     }
+    if (ThePhone().mode != Mode::Ftm)
+        return Bytes();
     const Bytes fields = FieldsOf(request);
     if (fields.empty())
         return {};
     reply.resize(headerLength);
-    return Behind(reply, fields);
+    return Concat(reply, fields);
 }
 
 }  // namespace simulator

@@ -3,6 +3,7 @@
 
 #include "platform/qmsl.h"
 #include "simulator/operation.h"
+#include "simulator/script.h"
 #include "simulator/state.h"
 
 using namespace simulator;
@@ -13,6 +14,8 @@ namespace
 // A port keeps its handle, which is 1 for the first one, whether or not a phone answers there.
 ResourceContext Connect(bool logical, uint32_t port)
 {
+    if (!RunEnvironmentScript())
+        return 0;
     LibraryState& state = TheState().library;
     ResourceContext handle = 0;
     if (state.connectHandle)

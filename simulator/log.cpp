@@ -25,6 +25,8 @@ void WriteLine(const std::string& text)
 
 }  // namespace
 
+void ReportNoEffect(const std::string& what) { WriteLine("SIMULATOR: " + what + " is accepted without effect"); }
+
 void ReportNotSimulated(const std::string& what)
 {
     const std::string line = "SIMULATOR: " + what + " is not simulated";
@@ -51,16 +53,19 @@ uint8_t QLIB_SetLogFlags(ResourceContext, uint32_t iFlags)
 {
     LogState& log = TheState().log;
     log.flags = iFlags;
-    log.flagsChanges.push_back({iFlags, log.texts.size()});
+    Keep(log.flagsChanges, {iFlags, log.texts.size()});
     return 1;
 }
 
-uint8_t QLIB_AddUserMessageToTextLog(ResourceContext, uint32_t, const char* sText, uint32_t)
+uint8_t QLIB_AddUserMessageToTextLog(ResourceContext hResourceContext, uint32_t iLevel, const char* sText,
+                                     uint32_t iReserved)
 {
     if (sText == nullptr)
         return 0;
     LogState& log = TheState().log;
-    log.texts.emplace_back(sText);
+    Keep(log.texts, std::string(sText));
+    Keep(log.arguments, {hResourceContext, iLevel, iReserved});
+    Keep(TheState().timeline, std::string(sText));
     if (log.flags != 0)
         WriteLine(sText);
     return 1;

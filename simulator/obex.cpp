@@ -354,12 +354,13 @@ std::map<std::string, SimulatedFile> FreshFiles()
         {"Pictures/Holiday", folder},
         {"Pictures/Holiday/beach.jpg", {.content = Bytes(12000, 0xDB)}},
         {"Sounds", folder},
+        {"contrast.bmp", {.content = Bytes(3000, 0x42)}},
         {"Sounds/alarm.mid", {.content = Bytes(700, 0x4D), .permissions = "\"R\"\"R\""}},
     };
 }
 
 // The escape sequence ends the session, and is not answered.
-Bytes AnswerObex(const Bytes& request)
+std::optional<Bytes> AnswerObex(const Bytes& request)
 {
     Phone& phone = ThePhone();
     if (request == escapeSequence)
@@ -368,7 +369,10 @@ Bytes AnswerObex(const Bytes& request)
         return {};
     }
     if (phone.obexPeer)
-        return phone.obexPeer(request);
+    {
+        const Bytes answer = phone.obexPeer(request);
+        return answer.empty() ? std::nullopt : std::optional(answer);
+    }
     const auto packet = PacketOf(request);
     if (!packet)
         return Answer(BadRequest);

@@ -1,4 +1,5 @@
-// OBEX packets as the phone's file server reads and makes them. Multi-byte fields are big-endian.
+// OBEX packets as the phone's file server reads and makes them. Multi-byte fields are big-endian. The codes stand here
+// and in the library, on purpose: an error in one of the two shows.
 #pragma once
 
 #include <map>

@@ -11,19 +11,19 @@ namespace
 {
 
 // Takes the actions that are due out of the list before they run, since they may script further ones.
-void Intervene(const std::string& operation, int call)
+void RunHooks(const std::string& operation, int call)
 {
-    auto& interventions = TheState().calls.interventions;
-    std::vector<Intervention> due;
-    std::erase_if(interventions,
-                  [&](const Intervention& one)
+    auto& hooks = TheState().calls.hooks;
+    std::vector<Hook> due;
+    std::erase_if(hooks,
+                  [&](const Hook& one)
                   {
                       if (one.operation != operation || one.call != call)
                           return false;
                       due.push_back(one);
                       return true;
                   });
-    for (const Intervention& one : due)
+    for (const Hook& one : due)
         one.action();
 }
 
@@ -57,13 +57,23 @@ Bytes BytesAt(const void* start, int64_t length)
     return bytes == nullptr || length < 0 ? Bytes() : Bytes(bytes, bytes + length);
 }
 
+bool AnswersInTime()
+{
+    if (!PhoneAnswers())
+        return false;
+    TakeTime(ThePhone().latencyMs);
+    return true;
+}
+
 bool Enter(const char* operation, const std::string& arguments, bool hasResult)
 {
     CallState& state = TheState().calls;
     const int call = ++state.counts[operation];
     const int callOfAny = hasResult ? ++state.counts[""] : 0;
-    state.calls.push_back(std::string(operation) + '(' + arguments + ')');
-    Intervene(operation, call);
+    const std::string text = std::string(operation) + '(' + arguments + ')';
+    Keep(state.calls, text);
+    Keep(TheState().timeline, text);
+    RunHooks(operation, call);
     return std::ranges::none_of(state.refusals,
                                 [&](const Refusal& refusal)
                                 {

@@ -45,6 +45,12 @@ bool Enter(const char* operation, const std::string& arguments, bool hasResult =
 
 bool IsConnected(ResourceContext handle);
 
+// Whether the phone answers an operation, which then takes its latency.
+bool AnswersInTime();
+
+// Puts the line "SIMULATOR: ... is accepted without effect" into the text log's file.
+void ReportNoEffect(const std::string& what);
+
 // Puts the line "SIMULATOR: ... is not simulated" where a person sees it: into the text log's file and on stderr.
 void ReportNotSimulated(const std::string& what);
 
@@ -59,7 +65,14 @@ bool Admits(ResourceContext handle, const char* operation, const Arguments&... a
 template <typename... Arguments>
 bool Reaches(ResourceContext handle, const char* operation, const Arguments&... arguments)
 {
-    return Admits(handle, operation, arguments...) && PhoneAnswers();
+    return Admits(handle, operation, arguments...) && AnswersInTime();
+}
+
+// The same, of an operation that the phone has in FTM mode only.
+template <typename... Arguments>
+bool ReachesInFtm(ResourceContext handle, const char* operation, const Arguments&... arguments)
+{
+    return Reaches(handle, operation, arguments...) && ThePhone().mode == Mode::Ftm;
 }
 
 }  // namespace simulator

@@ -31,6 +31,15 @@ bool PhoneAnswers()
     return state.phone.on && !state.starting;
 }
 
+void TakeTime(uint32_t milliseconds)
+{
+    if (milliseconds == 0)
+        return;
+    TheState().phoneTakesTime = true;
+    tandekor::platform::Sleep(milliseconds);
+    TheState().phoneTakesTime = false;
+}
+
 void StartPhone()
 {
     PhoneState& state = TheState().phone;

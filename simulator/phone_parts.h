@@ -15,6 +15,8 @@ namespace simulator
 // Transmitter and receiver.
 struct Radio
 {
+    Radio();
+
     uint16_t mode = 0;
     uint16_t channel = 0;
     bool transmitting = false;
@@ -25,10 +27,10 @@ struct Radio
     bool cwWaveform = false;
     std::map<uint16_t, uint16_t> pdm;  // by type
     uint8_t lnaRange = 0;
-    int16_t rssi = -72;
-    int16_t dvgaOffset = 14;
-    std::array<int16_t, 4> lnaOffsets = {3, 5, 8, 13};                  // by LNA index; another index is refused
-    std::map<uint16_t, uint16_t> adc = {{0, 820}, {1, 640}, {3, 512}};  // readings by type; another type is refused
+    int16_t rssi = 0;
+    int16_t dvgaOffset = 0;
+    std::array<int16_t, 4> lnaOffsets = {};  // by LNA index; another index is refused
+    std::map<uint16_t, uint16_t> adc;        // readings by type; another type is refused
 };
 
 // Test calls of each bearer.
@@ -92,7 +94,7 @@ struct Camera
     uint8_t sensor = 0;
     bool running = false;
     uint32_t status = 0;  // what the camera operations deliver
-    std::string id = "SIM CAMERA 1.3MP REV B";
+    std::string id;
 };
 
 // The calendar as the phone keeps it.
@@ -128,30 +130,26 @@ struct Pin
     std::array<uint8_t, 4> configuration = {};  // function, pull up or down, pull enable, direction
 };
 
-// What the factory requests reach.
+// What the factory requests reach. What is not 0 or empty when fresh stands in fresh_phone.cpp.
 struct Factory
 {
+    Factory();
+
     std::map<uint8_t, Pin> pins;
     // Registers of the I2C devices by device and register address: the cameras' identifications, the radio chip.
-    std::map<std::pair<uint8_t, uint16_t>, std::vector<uint8_t>> i2c = {
-        {{0x45, 0x222F}, {0x13}},
-        {{0x51, 0}, {0x00, 0x51}},
-        {{0x47, 0x2560}, {0x47}},
-        {{0x21, 0x0B}, {0x21}},
-        {{0x10, 0}, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0xA4}},
-    };
-    std::map<uint8_t, uint16_t> fuelGaugeRegisters = {{0, 0x0E74}, {1, 98}};
+    std::map<std::pair<uint8_t, uint16_t>, std::vector<uint8_t>> i2c;
+    std::map<uint8_t, uint16_t> fuelGaugeRegisters;  // 0 voltage in mV, 1 charge in percent
     uint32_t headsetRegister = 0;
-    std::vector<uint8_t> imsi = {0x08, 0x29, 0x26, 0x10, 0x00, 0x00, 0x00, 0x00, 0x10};
+    std::vector<uint8_t> imsi;
     uint8_t simMode = 1;
-    std::vector<uint8_t> kcFile = {1, 2, 3, 4, 5, 6, 7, 8, 9};
+    std::vector<uint8_t> kcFile;
     std::map<std::string, std::vector<uint8_t>> card;  // files of the memory card by name
     std::map<uint16_t, uint8_t> data;                  // factory bytes by address
     std::vector<uint16_t> linearizer;
-    uint16_t fmChip = 0x1242;
+    uint16_t fmChip = 0;
     uint16_t fmChannel = 0;
-    std::vector<uint16_t> fmStations = {8750, 9460, 10130};
-    std::string fmProgram = "SIM FM";
+    std::vector<uint16_t> fmStations;
+    std::string fmProgram;
     std::string image;  // file name last shown
     uint8_t display = 0;
     uint8_t backlight = 0, contrast = 0;

@@ -1,4 +1,6 @@
 // The two raw exchanges: scripted replies, else what the phone answers on the port.
+#include <algorithm>
+
 #include "platform/qmsl.h"
 #include "simulator/operation.h"
 #include "simulator/state.h"
@@ -8,30 +10,47 @@ using namespace simulator;
 namespace
 {
 
-// A scripted reply, if there is one; else the phone's own, or that it stays silent.
-Reply NextReply(const Bytes& request, Bytes (*answer)(const Bytes&))
+using Answer = std::optional<Bytes> (*)(const Bytes& request);
+
+std::optional<Reply> ScriptedReply(const std::string& operation)
 {
     CallState& state = TheState().calls;
-    if (!state.queuedReplies.empty())
-    {
-        Reply reply = state.queuedReplies.front();
-        state.queuedReplies.pop_front();
-        return reply;
-    }
-    if (state.repeatedReply)
-        return *state.repeatedReply;
-    const Bytes bytes = PhoneAnswers() ? answer(request) : Bytes();
-    return {bytes, !bytes.empty(), std::nullopt};
+    const auto queued = std::ranges::find_if(state.queuedReplies, [&](const Reply& reply)
+                                             { return reply.operation.empty() || reply.operation == operation; });
+    if (queued == state.queuedReplies.end())
+        return state.repeatedReply;
+    Reply reply = *queued;
+    state.queuedReplies.erase(queued);
+    return reply;
 }
 
-uint8_t MakeExchange(const Exchange& exchange, Bytes (*answer)(const Bytes&), uint16_t* responseLength,
-                     uint8_t* response)
+bool StaysSilent()
 {
-    TheState().calls.exchanges.push_back(exchange);
+    uint32_t& exchanges = TheState().calls.silentExchanges;
+    if (exchanges == 0)
+        return !PhoneAnswers();
+    if (exchanges != UINT32_MAX)
+        --exchanges;
+    return true;
+}
+
+// A scripted reply, if there is one; else the phone's own. A phone that stays silent costs the whole time-out.
+Reply NextReply(const Exchange& exchange, Answer answer)
+{
+    if (std::optional<Reply> reply = ScriptedReply(exchange.operation))
+        return *reply;
+    const std::optional<Bytes> bytes = StaysSilent() ? std::nullopt : answer(exchange.request);
+    TakeTime(bytes ? ThePhone().latencyMs : exchange.timeoutMs);
+    return {bytes.value_or(Bytes()), bytes && !bytes->empty(), std::nullopt};
+}
+
+uint8_t MakeExchange(const Exchange& exchange, Answer answer, uint16_t* responseLength, uint8_t* response)
+{
+    Keep(TheState().calls.exchanges, exchange);
     const Bytes& request = exchange.request;
     if (!Admits(exchange.handle, exchange.operation.c_str(), request.size(), request, exchange.timeoutMs))
         return 0;
-    const Reply reply = NextReply(request, answer);
+    const Reply reply = NextReply(exchange, answer);
     const size_t delivered = std::min<size_t>(reply.bytes.size(), exchange.capacity);
     if (response != nullptr)
         std::copy_n(reply.bytes.begin(), delivered, response);

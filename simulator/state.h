@@ -60,6 +60,7 @@ struct LibraryState
     QlibUploadCallback uploadCallback = nullptr;
     bool batchMode = false;
     std::vector<std::pair<uint16_t, Bytes>> batch;  // NV writes that wait for the flush
+    std::optional<bool> scriptSucceeded;            // of the file that the environment names; nothing before it is read
 };
 
 struct Refusal
@@ -69,7 +70,7 @@ struct Refusal
     int last;
 };
 
-struct Intervention
+struct Hook
 {
     std::string operation;
     int call;
@@ -79,18 +80,21 @@ struct Intervention
 struct CallState
 {
     std::vector<std::string> calls;
-    std::map<std::string, int> counts;  // by operation, and under "" all calls that have a result
+    std::map<std::string, int> counts;     // by operation, and under "" all calls that have a result
+    std::map<std::string, int> forgotten;  // how many of them ForgetCalls has left behind
     std::vector<Refusal> refusals;
-    std::vector<Intervention> interventions;
+    std::vector<Hook> hooks;
     std::vector<Exchange> exchanges;
     std::deque<Reply> queuedReplies;
     std::optional<Reply> repeatedReply;
+    uint32_t silentExchanges = 0;
 };
 
 struct LogState
 {
     std::ofstream file;
     std::vector<std::string> texts;
+    std::vector<LogArguments> arguments;
     std::optional<uint32_t> flags;
     std::vector<LogFlagsChange> flagsChanges;
 };
@@ -101,9 +105,23 @@ struct State
     LibraryState library;
     CallState calls;
     LogState log;
+    std::vector<std::string> timeline;
+    size_t mostRecorded = 1000;
+    bool phoneTakesTime = false;  // the wait that runs is none of the library's
 };
 
-// Lives to the end of the process.
+// Lives until the library is unloaded, and is made anew if something comes after that.
 State& TheState();
+
+// Adds to a record, within the number of entries that are kept.
+template <typename Entry>
+void Keep(std::vector<Entry>& record, Entry entry)
+{
+    const size_t most = TheState().mostRecorded;
+    if (record.size() / 2 >= most)
+        record.erase(record.begin(), record.end() - static_cast<ptrdiff_t>(most));
+    if (most != 0)
+        record.push_back(std::move(entry));
+}
 
 }  // namespace simulator

@@ -43,6 +43,7 @@ TEST_F(EveryFunctionTest, UnknownHandleTouchesNothing)
 
 TEST_F(EveryFunctionTest, QpstModeShutsOutAtAndObexAndNothingElse)
 {
+    simulator::ThePhone().mode = simulator::Mode::Ftm;
     TANDEKOR_SetLibraryMode(1);
     ExpectNothingFrom(rawCalls, handle);
     EXPECT_EQ(Call(TANDEKOR_FTM_GET_HW_ID)(handle).result, 1);

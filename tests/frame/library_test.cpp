@@ -50,6 +50,7 @@ TEST_F(LibraryTest, TextsOfTheLogAreCutTo12291Characters)
 
 TEST_F(LibraryTest, PublicHeadersServeCallersInC)
 {
+    simulator::ThePhone().mode = simulator::Mode::Ftm;
     simulator::ThePhone().hardwareVersion = 0x12345678;
     Replies("AT+CMUT?\r\r\n+CMUT: 1\r\n\r\nOK");
     uint8_t value = 0;

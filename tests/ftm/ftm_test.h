@@ -57,6 +57,8 @@ struct Answered
 class FtmTest : public BenchTest
 {
 protected:
+    FtmTest() { simulator::ThePhone().mode = simulator::Mode::Ftm; }
+
     // The phone that answers with a header, whose last word is 9, and these fields.
     static void RepliesWith(const std::string& fields);
     // Each call makes as many exchanges as it has replies.

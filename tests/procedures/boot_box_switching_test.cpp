@@ -20,6 +20,7 @@ protected:
 
 TEST_F(SwitchOnTest, OnlinePhoneThatAnswersAtOnce)
 {
+    Phone().mode = simulator::Mode::Online;
     EXPECT_EQ(TANDEKOR_BootBox_SwitchMobileOn(handle, 4, 0), 1);
     const Texts log{
         "\tSwitchPhoneOn(iBootBoxPort = 4) - Completed successfully\n",

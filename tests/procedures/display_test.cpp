@@ -69,6 +69,7 @@ TEST_F(DisplayTest, ImageIsShownOnTheDisplayOnceThatIsChosen)
         GuardedBuffer file(128);
         std::fill_n(file.Text(), 128, 'x');
         std::copy_n("\\a.jpg", 7, file.Text());
+        Phone().files["\\a.jpg"] = Phone().files[std::string(128, 'x')] = {};
         const auto draw = colours24Bit ? TANDEKOR_FTM_DrawContrastPattern24Bit : TANDEKOR_FTM_DrawContrastPattern;
         const std::string command = colours24Bit ? "C9" : "17";
         const std::string name = colours24Bit ? "TANDEKOR_FTM_DISPLAY_IMAGE_24BIT" : "TANDEKOR_FTM_DISPLAY_IMAGE";

@@ -56,6 +56,7 @@ TEST_F(ModeChangeTest, ByResetOfAPhoneThatIsSlowToGoOfflineAndToComeBack)
 
 TEST_F(ModeChangeTest, ByResetOfAPhoneThatStaysOnlineForTwelveSeconds)
 {
+    Phone().mode = simulator::Mode::Online;
     Phone().goesOffline = false;
     EXPECT_EQ(TANDEKOR_ModeChangeResetMobile(handle, 1), 0);
     EXPECT_EQ(Calls(), (Texts{"QLIB_IsPhoneConnected() x3", "QLIB_DIAG_CONTROL_F(0)", "QLIB_DIAG_STATUS_F() x48"}));

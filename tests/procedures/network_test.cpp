@@ -158,6 +158,7 @@ class VirtualSimTest : public NetworkTest
 protected:
     uint8_t Run()
     {
+        Phone().mode = simulator::Mode::Online;
         simulator::TheClock().onSleep = [this](uint32_t milliseconds)
         {
             TakeCalls();

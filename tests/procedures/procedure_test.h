@@ -13,14 +13,18 @@ namespace tandekor::test
 using Texts = std::vector<std::string>;
 using Waits = std::vector<uint32_t>;
 
+// A phone in FTM mode, where nothing else is said.
 class ProcedureTest : public BenchTest
 {
 protected:
+    ProcedureTest() { Phone().mode = simulator::Mode::Ftm; }
+
     // For tests that walk through several cases.
     void FreshBench()
     {
         TANDEKOR_DisconnectAllServers();
         simulator::Reset();
+        Phone().mode = simulator::Mode::Ftm;
         handle = TANDEKOR_ConnectServer(comPort);
         simulator::ForgetCalls();
     }

@@ -43,7 +43,7 @@ struct Outs
 } outs;
 
 void ChooseQpstMode(ResourceContext) { TANDEKOR_SetLibraryMode(1); }
-void GoFtm(ResourceContext) { ThePhone().mode = simulator::Mode::Ftm; }
+void GoOnline(ResourceContext) { ThePhone().mode = simulator::Mode::Online; }
 
 uint8_t RxGsmAdjust(ResourceContext h)
 {
@@ -71,6 +71,12 @@ uint8_t WriteGsmRxGainRange(ResourceContext h)
     return NV_WRITE_GSM_RX_GAIN_RANGE(h, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t, t);
 }
 
+void GoOnlineWithoutDirectSwitch(ResourceContext h)
+{
+    GoOnline(h);
+    ThePhone().switchesModeDirectly = false;
+}
+void StoreImage(ResourceContext) { ThePhone().files[outs.text] = {}; }
 void BecomeModel3(ResourceContext) { ThePhone().hardwareId = 3; }
 
 const Procedure procedures[] = {
@@ -84,9 +90,9 @@ const Procedure procedures[] = {
     {"SetBitState_32_Reg", [](auto h) { return SetBitState_32_Reg(h, 16, 1, 1); }},
     {"TK_GetBitState_32_Reg", [](auto h) { return TK_GetBitState_32_Reg(h, 16, 1, &outs.dword, &outs.character); }},
     {"ModeChangeResetMobile", [](auto h) { return TANDEKOR_ModeChangeResetMobile(h, 1); }},
-    {"ONLINE_TO_FTM", TANDEKOR_ONLINE_TO_FTM, [](auto) { ThePhone().switchesModeDirectly = false; }},
+    {"ONLINE_TO_FTM", TANDEKOR_ONLINE_TO_FTM, GoOnlineWithoutDirectSwitch},
     {"FTM_TO_ONLINE", TANDEKOR_FTM_TO_ONLINE},
-    {"BootBox_SwitchMobileOn", [](auto h) { return TANDEKOR_BootBox_SwitchMobileOn(h, 4, 0); }},
+    {"BootBox_SwitchMobileOn", [](auto h) { return TANDEKOR_BootBox_SwitchMobileOn(h, 4, 0); }, GoOnline},
     {"BootBox_SwitchMobileOn_WithReset", [](auto h) { return TANDEKOR_BootBox_SwitchMobileOn(h, 4, 1); }},
     {"BootBox_SwitchMobileOff", [](auto h) { return TANDEKOR_BootBox_SwitchMobileOff(h, 4); },
      [](auto h) { TANDEKOR_BootBox_SwitchMobileOn(h, 4, 2); }},
@@ -109,8 +115,9 @@ const Procedure procedures[] = {
     {"TestKeypad", [](auto h) { return TANDEKOR_TestKeypad(h, &outs.word, &outs.word, outs.bytes); }},
     {"SpecialSwitchDisplay", [](auto h) { return TANDEKOR_SpecialSwitchDisplay(h, 1); },
      [](auto) { ThePhone().hardwareId = 2; }},
-    {"DrawContrastPattern", [](auto h) { return TANDEKOR_FTM_DrawContrastPattern(h, outs.text, 0); }},
-    {"DrawContrastPattern24Bit", [](auto h) { return TANDEKOR_FTM_DrawContrastPattern24Bit(h, outs.text, 0); }},
+    {"DrawContrastPattern", [](auto h) { return TANDEKOR_FTM_DrawContrastPattern(h, outs.text, 0); }, StoreImage},
+    {"DrawContrastPattern24Bit", [](auto h) { return TANDEKOR_FTM_DrawContrastPattern24Bit(h, outs.text, 0); },
+     StoreImage},
     {"SetCWPowerBluetooth", [](auto h) { return TANDEKOR_SetCWPowerBluetooth(h, 1); }},
     {"BluetoothTestConnect", [](auto h) { return TANDEKOR_BluetoothTestConnect(h, outs.text); }},
     {"FtmBtSetAddr",
@@ -156,8 +163,8 @@ const Procedure procedures[] = {
                                           22, 23);
      },
      ChooseQpstMode},
-    {"RX_GSM_Adjust", RxGsmAdjust, GoFtm},
-    {"RX_WCDMA_Adjust", RxWcdmaAdjust, GoFtm},
+    {"RX_GSM_Adjust", RxGsmAdjust},
+    {"RX_WCDMA_Adjust", RxWcdmaAdjust},
     {"NV_WRITE_WCDMA_VGA_GAIN",
      [](auto h) { return NV_WRITE_WCDMA_VGA_GAIN(h, 4, 1, reinterpret_cast<uint8_t*>(outs.text)); }},
     {"NV_READ_WCDMA_LNA_RANGE_FALL",
@@ -173,35 +180,33 @@ const Procedure procedures[] = {
          return NV_WRITE_WCDMA_LNA_OFFSET(h, 4, 1, t, 2, t, 3, t);
      }},
     {"Reduced_Signalling_GSM",
-     [](auto h) {
+     [](auto h)
+     {
          return TANDEKOR_Reduced_Signalling_GSM(h, outs.bytes, outs.bytes, 1, 2, 3, 4, 5, 6, 7, 1, 8, 9, 10, 11, 12, 13,
                                                 1);
-     },
-     GoFtm},
-    {"FTM_GSM_BER_StartCall", [](auto h) { return FTM_GSM_BER_StartCall(h, 1, 2, 3, 4); }, GoFtm},
-    {"FTM_GSM_BER_StopCall", [](auto h) { return FTM_GSM_BER_StopCall(h, 1); }, GoFtm},
+     }},
+    {"FTM_GSM_BER_StartCall", [](auto h) { return FTM_GSM_BER_StartCall(h, 1, 2, 3, 4); }},
+    {"FTM_GSM_BER_StopCall", [](auto h) { return FTM_GSM_BER_StopCall(h, 1); }},
     {"Reduced_Signalling_WCDMA",
-     [](auto h) { return TANDEKOR_Reduced_Signalling_WCDMA(h, 1, 2, outs.bytes, 3, 4, 5, 6, 7, 8, 9); }, GoFtm},
+     [](auto h) { return TANDEKOR_Reduced_Signalling_WCDMA(h, 1, 2, outs.bytes, 3, 4, 5, 6, 7, 8, 9); }},
     {"Reduced_Signalling_HSDPA",
      [](auto h)
      {
          return TANDEKOR_Reduced_Signalling_HSDPA(h, 1, 2, 3, outs.bytes, 4, 4, 1, outs.bytes, 5, 6, 7, 8, 9, 10, 11,
                                                   outs.bytes);
-     },
-     GoFtm},
+     }},
     {"Reduced_Signalling_EDGE",
      [](auto h)
      {
          return TANDEKOR_Reduced_Signalling_EDGE(h, 1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 13, 0, 0, 0, 0,
                                                  outs.bytes, outs.bytes);
-     },
-     GoFtm},
-    {"FTM_EGPRS_BER_StartCall", [](auto h) { return FTM_EGPRS_BER_StartCall(h, 1, 2, 3, 4); }, GoFtm},
-    {"StartCall", [](auto h) { return TANDEKOR_StartCall(h, 3, outs.bytes); }},
-    {"GSM_PA_OutputPower", [](auto h) { return TANDEKOR_GSM_PA_OutputPower(h, 1, 2, 3, 4, 5, 6, 7, 8); }, GoFtm},
-    {"Set_TX_PowerOn", [](auto h) { return TANDEKOR_Set_TX_PowerOn(h, 1, 2, 3, 4, 5, 6, 7, 8); }, GoFtm},
-    {"WCDMA_PA_OutputPower", [](auto h) { return TANDEKOR_WCDMA_PA_OutputPower(h, 1, 2, 3, 4, 5, 6); }, GoFtm},
-    {"AFC_Deviation", [](auto h) { return TANDEKOR_AFC_Deviation(h, 1, 2, 3, 4, 5, 6); }, GoFtm},
+     }},
+    {"FTM_EGPRS_BER_StartCall", [](auto h) { return TANDEKOR_FTM_EGPRS_BER_StartCall(h, 1, 2, 3, 4); }},
+    {"StartCall", [](auto h) { return TANDEKOR_StartCall(h, 3, outs.bytes); }, GoOnline},
+    {"GSM_PA_OutputPower", [](auto h) { return TANDEKOR_GSM_PA_OutputPower(h, 1, 2, 3, 4, 5, 6, 7, 8); }},
+    {"Set_TX_PowerOn", [](auto h) { return TANDEKOR_Set_TX_PowerOn(h, 1, 2, 3, 4, 5, 6, 7, 8); }},
+    {"WCDMA_PA_OutputPower", [](auto h) { return TANDEKOR_WCDMA_PA_OutputPower(h, 1, 2, 3, 4, 5, 6); }},
+    {"AFC_Deviation", [](auto h) { return TANDEKOR_AFC_Deviation(h, 1, 2, 3, 4, 5, 6); }},
     {"CheckDACValues_Summed",
      [](auto h) { return TANDEKOR_CheckDACValues(h, 2, &outs.average, 3, &outs.average, &outs.average); }},
     {"CheckDACValues_Single",
@@ -210,8 +215,8 @@ const Procedure procedures[] = {
      { ThePhone().msmHardwareVersion = 0xC0, ThePhone().hardwareVersion = 0xC0000, ThePhone().hardwareId = 4; }},
     {"Virtual_SIM", [](auto h) { return TANDEKOR_Virtual_SIM(h, outs.text, outs.bytes); }},
     {"Virtual_SIM_Forced", [](auto h) { return TANDEKOR_Virtual_SIM(h, outs.text, outs.bytes); },
-     [](auto) { ThePhone().switchesModeDirectly = false; }},
-    {"SimSimulation", SimSimulation},
+     GoOnlineWithoutDirectSwitch},
+    {"SimSimulation", TANDEKOR_SimSimulation},
     {"SpecialSetRtcActualTime", TANDEKOR_SpecialSetRtcActualTime},
     {"NetworkAndChannelPreselection", [](auto h) { return TANDEKOR_NetworkAndChannelPreselection(h, 2, 3, 4); }},
     {"NV_WRITE_NETWORK_SCAN_MODE", [](auto h) { return NV_WRITE_NETWORK_SCAN_MODE(h, 2); }},

@@ -78,7 +78,8 @@ TEST_F(SimulatedAtTest, SettingsAreKeptFieldByField)
     ExpectOuts(With(TANDEKOR_AT_Get_CIND), ok, {{'4'}, {'3'}, {'0'}, {'0'}, {'0'}, {'0'}, {'1'}, {'9'}});
     set(With(TANDEKOR_AT_Set_COPS, {1, 2, "26201"}));
     set(With(TANDEKOR_AT_Set_COPS, {4, -1, ""}));
-    ExpectOuts(With(TANDEKOR_AT_Get_COPS, {Out{4}, Out{4}, Out{16}}), ok, {U32(4), U32(2), Text("26201")});
+    set(With(TANDEKOR_AT_Set_COPS, {3, 0, "-"}));
+    ExpectOuts(With(TANDEKOR_AT_Get_COPS, {Out{4}, Out{4}, Out{16}}), ok, {U32(4), U32(0), Text("26201")});
     set(With(TANDEKOR_AT_Set_CREG, {2}));
     ExpectOuts(With(TANDEKOR_AT_Get_CREG, {Out{1}, Out{1}, Out{2}, Out{2}}), ok, {{2}, {1}, {'1', 'A'}, {'2', 'B'}});
     set(With(TANDEKOR_AT_Set_CSCA, {"+4930", "129"}));
