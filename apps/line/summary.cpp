@@ -96,7 +96,7 @@ std::string WriteSummary(const std::filesystem::path& folder, std::string& text)
     const Summary summary = ReadRecords(folder);
     const Yield yield = YieldOf(summary.runs);
     const std::filesystem::path page = folder / "summary.html";
-    if (const std::string problem = WriteWhole(page, folder / "summary.html.part", PageOf(summary)); !problem.empty())
+    if (std::string problem = WriteWhole(page, folder / "summary.html.part", PageOf(summary)); !problem.empty())
         return problem;
 
     text = std::to_string(yield.runs) + " runs, " + std::to_string(yield.phones) + " phones judged\nyield "

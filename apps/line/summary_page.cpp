@@ -158,6 +158,25 @@ std::string Histogram(const Series& series, const Spread& spread)
     return svg + "</svg>";
 }
 
+std::string Card(const std::string& name, const std::string& unit, const Series& series, const Spread& spread)
+{
+    const int decimals
+        = spread.deviation > 0 ? std::clamp(2 - static_cast<int>(std::floor(std::log10(spread.deviation))), 0, 9) : 2;
+    const Verdict verdict = !spread.cpk             ? Verdict::Skipped
+                            : *spread.cpk < badCpk  ? Verdict::Failed
+                            : *spread.cpk < goodCpk ? Verdict::NotJudged
+                                                    : Verdict::Passed;
+    const std::string cssClass{VerdictName(verdict)};
+    const std::string tail = unit.empty() ? "" : " " + Escaped(unit);
+    return "<div class=\"card " + cssClass + "\"><header><h3>" + Escaped(name) + "</h3><span class=\"badge " + cssClass
+           + "\">" + (spread.cpk ? "Cpk " + Fixed(*spread.cpk, 2) : "no Cpk") + "</span></header>\n"
+           + Histogram(series, spread) + "<p class=\"number\">mean " + Fixed(spread.mean, decimals) + ", sigma "
+           + Fixed(spread.deviation, decimals) + tail + "</p><p class=\"soft\">" + std::to_string(series.values.size())
+           + " values from " + NumberText(spread.low) + " to " + NumberText(spread.high) + tail + "; "
+           + Escaped(LimitText(series.limit, unit))
+           + (series.limitChanged ? "; limits have changed, these are the latest" : "") + "</p></div>\n";
+}
+
 std::string Measures(const Summary& summary)
 {
     struct Drawn
@@ -169,24 +188,8 @@ std::string Measures(const Summary& summary)
     for (const auto& [name, series] : summary.series)
     {
         const Spread spread = SpreadOf(series);
-        const int decimals = spread.deviation > 0
-                                 ? std::clamp(2 - static_cast<int>(std::floor(std::log10(spread.deviation))), 0, 9)
-                                 : 2;
-        const std::string unit = name.second.empty() ? "" : " " + Escaped(name.second);
-        const Verdict verdict = !spread.cpk             ? Verdict::Skipped
-                                : *spread.cpk < badCpk  ? Verdict::Failed
-                                : *spread.cpk < goodCpk ? Verdict::NotJudged
-                                                        : Verdict::Passed;
-        std::string html
-            = "<div class=\"card " + std::string{VerdictName(verdict)} + "\"><header><h3>" + Escaped(name.first)
-              + "</h3><span class=\"badge " + std::string{VerdictName(verdict)} + "\">"
-              + (spread.cpk ? "Cpk " + Fixed(*spread.cpk, 2) : std::string{"no Cpk"}) + "</span></header>\n"
-              + Histogram(series, spread) + "<p class=\"number\">mean " + Fixed(spread.mean, decimals) + ", sigma "
-              + Fixed(spread.deviation, decimals) + unit + "</p><p class=\"soft\">"
-              + std::to_string(series.values.size()) + " values from " + NumberText(spread.low) + " to "
-              + NumberText(spread.high) + unit + "; " + Escaped(LimitText(series.limit, name.second))
-              + (series.limitChanged ? "; limits have changed, these are the latest" : "") + "</p></div>\n";
-        measures.push_back({spread.cpk.value_or(std::numeric_limits<double>::infinity()), std::move(html)});
+        measures.push_back({spread.cpk.value_or(std::numeric_limits<double>::infinity()),
+                            Card(name.first, name.second, series, spread)});
     }
     if (measures.empty())
         return {};

@@ -20,7 +20,7 @@ const std::chrono::system_clock::time_point start
 
 fs::path NewFolder(const char* name)
 {
-    const fs::path folder = fs::path{RECORDS_FOLDER} / name;
+    fs::path folder = fs::path{RECORDS_FOLDER} / name;
     fs::remove_all(folder);
     EXPECT_EQ(PrepareRecordFolder(folder), "");
     EXPECT_TRUE(fs::is_empty(folder));
@@ -51,7 +51,7 @@ RunRecord RunOf(const char* dut, Verdict verdict, double value)
 
 RecordNames Write(const fs::path& folder, RunRecord run)
 {
-    const RecordNames names = ReserveRecord(folder, run.dut, run.start);
+    RecordNames names = ReserveRecord(folder, run.dut, run.start);
     run.logFile = names.log.string();
     EXPECT_EQ(names.problem + WriteRecords(run, names.base), "");
     return names;
