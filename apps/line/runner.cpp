@@ -28,7 +28,7 @@ public:
         file.clear();
         while (std::getline(file, line))
         {
-            line.erase(line.find_last_not_of("\r") + 1);
+            line.erase(line.find_last_not_of('\r') + 1);
             lines.push_back(Printable(line));
         }
         return lines;

@@ -69,9 +69,9 @@ struct Outcome
 
 // The compiler checks the values against the format.
 #if defined(__MINGW32__)
-#define TANDEKOR_LINE_FORMAT(position) __attribute__((format(gnu_printf, position, position + 1)))
+#define TANDEKOR_LINE_FORMAT(position) __attribute__((format(gnu_printf, position, (position) + 1)))
 #elif defined(__GNUC__)
-#define TANDEKOR_LINE_FORMAT(position) __attribute__((format(printf, position, position + 1)))
+#define TANDEKOR_LINE_FORMAT(position) __attribute__((format(printf, position, (position) + 1)))
 #else
 #define TANDEKOR_LINE_FORMAT(position)
 #endif
