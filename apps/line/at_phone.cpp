@@ -1,4 +1,4 @@
-// What the phone tells of itself by AT commands: identity, supply, network, clock, messages.
+// What the phone says of itself by AT commands: identity, supply, clock, messages.
 #include <array>
 #include <chrono>
 #include <cstdlib>
@@ -13,7 +13,7 @@ namespace tandekor::line
 namespace
 {
 
-// A text that the phone tells, without the line ends behind it.
+// A text that the phone reports, without the line ends after it.
 using GetText = uint8_t (*)(ResourceContext, char*, uint16_t*);
 struct Text
 {
@@ -24,7 +24,7 @@ struct Text
 
 Outcome ReadTexts(const Context& context, std::span<const Text> texts)
 {
-    std::string all;
+    Outcome outcome = Done("%s", "");
     for (const Text& text : texts)
     {
         constexpr size_t anyReply = 4096;
@@ -36,10 +36,10 @@ Outcome ReadTexts(const Context& context, std::span<const Text> texts)
         std::string value = buffer.data();
         value.erase(std::min(value.find_first_of("\r\n"), value.size()));
         if (value.empty())
-            return Failed("the phone tells no %s\n%s gave an empty text", text.label, text.function);
-        all += (all.empty() ? "" : "\n") + std::string(text.label) + ' ' + value;
+            return Failed(text.function, "the phone reports no %s", text.label);
+        outcome.Add(text.label, value);
     }
-    return Passed("%s", all.c_str());
+    return outcome;
 }
 
 Outcome Identity(Context& context)
@@ -55,9 +55,9 @@ Outcome Identity(Context& context)
 Outcome SerialNumbers(Context& context)
 {
     static constexpr Text texts[] = {
-        {"IMEI", TANDEKOR_AT_Get_CGSN, "TANDEKOR_AT_Get_CGSN"},
+        {"imei", TANDEKOR_AT_Get_CGSN, "TANDEKOR_AT_Get_CGSN"},
         {"subscriber", TANDEKOR_AT_Get_CIMI, "TANDEKOR_AT_Get_CIMI"},
-        {"SIM card", TANDEKOR_AT_Get_SCID, "TANDEKOR_AT_Get_SCID"},
+        {"sim-card", TANDEKOR_AT_Get_SCID, "TANDEKOR_AT_Get_SCID"},
     };
     return ReadTexts(context, texts);
 }
@@ -70,50 +70,14 @@ const char* Meaning(const char* const (&meanings)[Count], uint32_t number)
 
 Outcome Battery(Context& context)
 {
-    static constexpr const char* supplies[]
-        = {"on battery", "battery connected, external supply", "no battery", "power fault"};
+    static constexpr const char* supplies[] = {"battery", "external", "no battery", "power fault"};
     uint8_t supply = UINT8_MAX;
     uint8_t charge = UINT8_MAX;
     uint16_t status = atStatusOk;
     const uint8_t result = TANDEKOR_AT_Get_CBC(context.handle, &supply, &charge, &status);
     if (!AtAnswered(result, status))
         return AtNotAnswered(result, status, "TANDEKOR_AT_Get_CBC");
-    return Passed("charge %u %%, %s", charge, Meaning(supplies, supply));
-}
-
-Outcome Signal(Context& context)
-{
-    constexpr uint8_t notKnown = 99;
-    uint8_t strength = notKnown;
-    uint8_t errorRate = notKnown;
-    uint16_t status = atStatusOk;
-    const uint8_t result = TANDEKOR_AT_Get_CSQ(context.handle, &strength, &errorRate, &status);
-    if (!AtAnswered(result, status))
-        return AtNotAnswered(result, status, "TANDEKOR_AT_Get_CSQ");
-    const std::string power = strength == notKnown ? "not known" : std::to_string(2 * strength - 113) + " dBm";
-    const std::string errors = errorRate == notKnown ? "not known" : "class " + std::to_string(errorRate) + " of 7";
-    return Passed("strength %s, bit error rate %s", power.c_str(), errors.c_str());
-}
-
-Outcome Registration(Context& context)
-{
-    static constexpr const char* states[]
-        = {"not registered", "registered, home network", "searching", "denied", "not known", "registered, roaming"};
-    uint8_t reports = 0;
-    uint8_t state = UINT8_MAX;
-    uint8_t area[2] = {};
-    uint8_t cell[2] = {};
-    uint32_t mode = 0;
-    uint32_t format = 0;
-    char name[16] = {};
-    uint16_t status = atStatusOk;
-    uint8_t result = TANDEKOR_AT_Get_CREG(context.handle, &reports, &state, area, cell, &status);
-    if (!AtAnswered(result, status))
-        return AtNotAnswered(result, status, "TANDEKOR_AT_Get_CREG");
-    result = TANDEKOR_AT_Get_COPS(context.handle, &mode, &format, name, &status);
-    if (!AtAnswered(result, status))
-        return AtNotAnswered(result, status, "TANDEKOR_AT_Get_COPS");
-    return Passed("%s (state %u), operator %s", Meaning(states, state), state, name);
+    return Done("%s", "").Add("charge", charge).Add("supply", Meaning(supplies, supply));
 }
 
 // The clock is set to the computer's universal time.
@@ -146,7 +110,7 @@ Outcome ClockSetAndReadBack(Context& context)
     std::snprintf(text, sizeof text, "20%02u-%02u-%02u %02u:%02u:%02u, zone %+d quarters of an hour", read[0], read[1],
                   read[2], read[3], read[4], read[5], zone);
     if (delay < seconds(0) || delay > mostDelay || zone != 0)
-        return Failed("the clock shows another time than it was set to: %s\nTANDEKOR_AT_Get_CCLK is %lld s off", text,
+        return Failed("TANDEKOR_AT_Get_CCLK", "the clock shows another time than it was set to: %s, %lld s off", text,
                       static_cast<long long>(delay.count()));
     return Passed("%s, as set", text);
 }
@@ -167,26 +131,30 @@ Outcome Messages(Context& context)
                                             lengths.data(), lines.get(), &count, &status);
     if (!AtAnswered(result, status))
         return AtNotAnswered(result, status, "TANDEKOR_AT_CMGL");
-    std::string text = std::to_string(count) + " in the store";
+    std::string text;
     for (uint32_t i = 0; i < count; ++i)
-        text += "\nplace " + std::to_string(places[i]) + ": " + Meaning(states, stats[i]) + ", "
+        text += (i == 0 ? "place " : "\nplace ") + std::to_string(places[i]) + ": " + Meaning(states, stats[i]) + ", "
                 + std::to_string(lengths[i]) + " bytes";
-    return Passed("%s", text.c_str());
+    return Done("%s", text.c_str()).Add("stored", count);
 }
 
 constexpr Test tests[] = {
-    {"maker", "manufacturer, model, revision (+CGMI, +CGMM, +CGMR)", Identity},
-    {"serial-numbers", "numbers of phone, subscriber and SIM card (+CGSN, +CIMI, ^SCID)", SerialNumbers},
-    {"battery", "battery charge and supply (+CBC)", Battery},
-    {"signal", "signal strength and bit error rate (+CSQ)", Signal},
-    {"registration", "network registration and operator (+CREG, +COPS)", Registration},
-    {"clock", "clock set to universal time and read back (+CCLK)", ClockSetAndReadBack},
-    {"messages", "short messages in the store (+CMGL)", Messages},
+    {"maker",
+     "manufacturer, model, revision (+CGMI, +CGMM, +CGMR)",
+     Identity,
+     {{"manufacturer", textUnit}, {"model", textUnit}, {"revision", textUnit}}},
+    {"serial-numbers",
+     "numbers of phone, subscriber and SIM card (+CGSN, +CIMI, ^SCID)",
+     SerialNumbers,
+     {{"imei", textUnit}, {"subscriber", textUnit}, {"sim-card", textUnit}}},
+    {"battery", "battery charge and supply (+CBC)", Battery, {{"charge", "%"}, {"supply", textUnit}}},
+    {"clock", "clock set to universal time and read back (+CCLK)", ClockSetAndReadBack, {}, Changes::Storage},
+    {"messages", "short messages in the store (+CMGL)", Messages, {{"stored"}}},
 };
 
 }  // namespace
 
 extern const Group phoneGroup;
-constinit const Group phoneGroup{"phone", "identity, supply, network, clock and messages, by AT commands", tests};
+constinit const Group phoneGroup{"phone", "identity, supply, clock and messages, by AT commands", tests};
 
 }  // namespace tandekor::line

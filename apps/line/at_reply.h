@@ -14,10 +14,9 @@ inline bool AtAnswered(uint8_t result, uint16_t status) { return result != 0 && 
 inline Outcome AtNotAnswered(uint8_t result, uint16_t status, const std::string& function)
 {
     if (result == 0)
-        return Failed("the exchange with the phone failed\n%s gave 0", function.c_str());
-    return Failed("the phone answered %s\n%s gave the status %u",
-                  status == atStatusError ? "ERROR" : "neither OK nor ERROR, as in +CME ERROR", function.c_str(),
-                  status);
+        return Failed(function.c_str(), "the exchange with the phone failed");
+    return Failed(function.c_str(), "the phone answered %s (status %u)",
+                  status == atStatusError ? "ERROR" : "neither OK nor ERROR, as in +CME ERROR", status);
 }
 
 }  // namespace tandekor::line

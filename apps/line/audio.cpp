@@ -18,8 +18,8 @@ constexpr uint8_t halfVolume = 50;
 Outcome Path(Context& context)
 {
     if (TANDEKOR_MicrophoneBiasVoltages(context.handle, handset) == 0)
-        return Failed("the audio path cannot be set\nTANDEKOR_MicrophoneBiasVoltages gave 0");
-    return Passed("audio device %u", handset);
+        return Failed("TANDEKOR_MicrophoneBiasVoltages", "the audio path cannot be set");
+    return Done("audio device %u", handset);
 }
 
 Outcome Loopback(Context& context)
@@ -27,9 +27,9 @@ Outcome Loopback(Context& context)
     for (const uint8_t on : std::initializer_list<uint8_t>{1, 0})
     {
         if (TANDEKOR_AudioTest(context.handle, handset, on) == 0)
-            return Failed("the loopback cannot be switched %s\nTANDEKOR_AudioTest gave 0", on != 0 ? "on" : "off");
+            return Failed("TANDEKOR_AudioTest", "the loopback cannot be switched %s", on != 0 ? "on" : "off");
     }
-    return Passed("on, and off again");
+    return Done("on, and off again");
 }
 
 Outcome Speaker(Context& context)
@@ -37,8 +37,8 @@ Outcome Speaker(Context& context)
     constexpr uint16_t highHz = 1336;
     constexpr uint16_t lowHz = 941;
     if (TANDEKOR_TestSpeaker(context.handle, handset, halfVolume, highHz, lowHz) == 0)
-        return Failed("no tone\nTANDEKOR_TestSpeaker gave 0");
-    return Passed("tone of %u and %u Hz at volume %u", highHz, lowHz, halfVolume);
+        return Failed("TANDEKOR_TestSpeaker", "no tone");
+    return Done("tone of %u and %u Hz at volume %u", highHz, lowHz, halfVolume);
 }
 
 // The item that has to be written is the start mode, as switching on has written it already.
@@ -48,32 +48,35 @@ Outcome Microphone(Context& context)
     uint8_t startMode = 1;
     uint8_t pcm[512] = {};
     if (TANDEKOR_TestMicrophone(context.handle, 4, 0, sizeof pcm, pcm, startModeItem, &startMode, 1, 0, 0) == 0)
-        return Failed("nothing was captured\nTANDEKOR_TestMicrophone gave 0");
+        return Failed("TANDEKOR_TestMicrophone", "nothing was captured");
     int loudest = 0;
     for (size_t i = 0; i < sizeof pcm; i += 2)
         loudest = std::max(loudest, std::abs(static_cast<int16_t>(pcm[i] | pcm[i + 1] << 8)));
-    if (loudest == 0)
-        return Failed("the microphone is dead\n%zu samples of 0", sizeof pcm / 2);
-    return Passed("loudest of %zu samples %d of 32768", sizeof pcm / 2, loudest);
+    return Done("loudest of %zu samples", sizeof pcm / 2).Add("level", loudest);
 }
 
 Outcome FmRadio(Context& context)
 {
-    constexpr uint16_t channel = 9460;
+    const uint16_t channel = context.options.radio.channelFm;
     uint16_t chip = 0;
     uint16_t status = 0;
     uint8_t information = 0;
     if (TANDEKOR_FM_RadioTest(context.handle, handset, &chip, channel, &status, &information) == 0)
-        return Failed("the radio cannot be tuned\nTANDEKOR_FM_RadioTest gave 0 with the status %u", status);
-    return Passed("chip 0x%04X, tuned to channel %u, information bit %u", chip, channel, information);
+        return Failed("TANDEKOR_FM_RadioTest", "the radio cannot be tuned (status %u)", status);
+    return Done("tuned to channel %u, information bit %u", channel, information).Add("chip", chip);
 }
 
 constexpr Test tests[] = {
-    {"audio-path", "audio path with the microphone's bias", Path},
+    {"audio-path", "audio path with the microphone's bias", Path, {}, Changes::Setting},
     {"loopback", "loopback of the microphone, on and off", Loopback},
-    {"speaker", "tone of two frequencies, to be heard by the operator", Speaker},
-    {"microphone", "captures what the microphone hears", Microphone},
-    {"fm-radio", "tunes the FM radio", FmRadio},
+    {"speaker",
+     "tone of two frequencies",
+     Speaker,
+     {},
+     Changes::Setting,
+     "Did you hear a tone of two frequencies from the phone?"},
+    {"microphone", "captures what the microphone hears", Microphone, {{"level"}}},
+    {"fm-radio", "tunes the FM radio", FmRadio, {{"chip"}}, Changes::Setting},
 };
 
 }  // namespace

@@ -18,10 +18,9 @@ Outcome Charger(Context& context)
     uint8_t state = 0;
     if (TANDEKOR_Charging_Test(context.handle, powerMode, on, transistor, on, on, voltage, current, transistor, &state)
         == 0)
-        return Failed("the charger cannot be set\nTANDEKOR_Charging_Test gave 0");
+        return Failed("TANDEKOR_Charging_Test", "the charger cannot be set");
     if (state != on)
-        return Failed("the charger's transistor %u stays off\nTANDEKOR_Charging_Test gave the state %u", transistor,
-                      state);
+        return Failed("TANDEKOR_Charging_Test", "the charger's transistor %u stays off (state %u)", transistor, state);
     return Passed("transistor %u on, limits %u and %u, low power mode %u", transistor, voltage, current, powerMode);
 }
 
@@ -30,15 +29,13 @@ Outcome Supply(Context& context)
     constexpr uint8_t camera = 0;
     constexpr uint8_t level = 10;
     if (TANDEKOR_SupplyVoltageTest(context.handle, camera, level, 1, 1) == 0)
-        return Failed(
-            "the supply cannot be set, or this phone model has none to set\n"
-            "TANDEKOR_SupplyVoltageTest gave 0");
-    return Passed("camera %u supplied, backlight at level %u", camera, level);
+        return Failed("TANDEKOR_SupplyVoltageTest", "the supply cannot be set, or this phone model has none to set");
+    return Done("camera %u supplied, backlight at level %u", camera, level);
 }
 
 constexpr Test tests[] = {
-    {"camera-supply", "supply of the camera, with the display's backlight", Supply},
-    {"charger", "charger switches, limits and transistor", Charger},
+    {"camera-supply", "supply of the camera, with the display's backlight", Supply, {}, Changes::Setting},
+    {"charger", "charger switches, limits and transistor", Charger, {}, Changes::Setting},
 };
 
 }  // namespace

@@ -20,7 +20,7 @@ Outcome Backlight(Context& context)
         || requests.Fails("TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL",
                           TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL(context.handle, level)))
         return NotAnswered(requests.last);
-    return Passed("on, level %u", level);
+    return Done("on, level %u", level);
 }
 
 Outcome Contrast(Context& context)
@@ -28,15 +28,15 @@ Outcome Contrast(Context& context)
     constexpr uint8_t level = 128;
     if (TANDEKOR_FTM_SET_LCD_CONTRAST(context.handle, level) == 0)
         return NotAnswered("TANDEKOR_FTM_SET_LCD_CONTRAST");
-    return Passed("level %u", level);
+    return Done("level %u", level);
 }
 
 Outcome Image(Context& context)
 {
     char name[128] = "contrast.bmp";
     if (TANDEKOR_FTM_DISPLAY_IMAGE(context.handle, name) == 0)
-        return Failed("no reply, or the phone has no file %s\nTANDEKOR_FTM_DISPLAY_IMAGE gave 0", name);
-    return Passed("%s", name);
+        return Failed("TANDEKOR_FTM_DISPLAY_IMAGE", "no reply, or the phone has no file %s", name);
+    return Done("%s", name);
 }
 
 // The one row that all models have.
@@ -48,15 +48,15 @@ Outcome KeypadLight(Context& context)
         || requests.Fails("TANDEKOR_FTM_SetKeyPadBackLight (off)",
                           TANDEKOR_FTM_SetKeyPadBackLight(context.handle, row, 0)))
         return NotAnswered(requests.last);
-    return Passed("row %u on and off", row);
+    return Done("row %u on and off", row);
 }
 
 Outcome Slider(Context& context)
 {
     uint8_t state = 0;
     if (TANDEKOR_FTM_GetSliderState(context.handle, &state, 0) == 0)
-        return Failed("no reply, or this phone model has no slider\nTANDEKOR_FTM_GetSliderState gave 0");
-    return Passed("state %u", state);
+        return Failed("TANDEKOR_FTM_GetSliderState", "no reply, or this phone model has no slider");
+    return Done("%s", "").Add("state", state);
 }
 
 Outcome CameraIds(Context& context)
@@ -65,9 +65,9 @@ Outcome CameraIds(Context& context)
     for (const uint8_t camera : {uint8_t{0}, uint8_t{1}})
     {
         if (TANDEKOR_FTM_I2C_GetCameraId(context.handle, camera, &ids[camera]) == 0)
-            return Failed("camera %u was not started or not read\nTANDEKOR_FTM_I2C_GetCameraId gave 0", camera);
+            return Failed("TANDEKOR_FTM_I2C_GetCameraId", "camera %u was not started or not read", camera);
     }
-    return Passed("camera 0: 0x%02X, camera 1: 0x%02X", ids[0], ids[1]);
+    return Done("0x%02X and 0x%02X", ids[0], ids[1]).Add("first", ids[0]).Add("second", ids[1]);
 }
 
 Outcome CameraText(Context& context)
@@ -77,7 +77,7 @@ Outcome CameraText(Context& context)
         return NotAnswered("TANDEKOR_FTM_GetCameraIDString");
     std::replace_if(
         std::begin(id), std::end(id) - 1, [](char one) { return one != 0 && (one < ' ' || one > '~'); }, '.');
-    return Passed("'%s'", id);
+    return Done("%s", "").Add("text", id);
 }
 
 Outcome Flash(Context& context)
@@ -88,7 +88,7 @@ Outcome Flash(Context& context)
         || requests.Fails("TANDEKOR_FTM_TEST_CAMERA_FLASH",
                           TANDEKOR_FTM_TEST_CAMERA_FLASH(context.handle, 1, 0, &error)))
         return NotAnswered(requests.last);
-    return Passed("fired, to be seen by the operator");
+    return Done("fired");
 }
 
 Outcome Focus(Context& context)
@@ -96,22 +96,37 @@ Outcome Focus(Context& context)
     constexpr uint8_t level = 128;
     if (TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS(context.handle, level) == 0)
         return NotAnswered("TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS");
-    return Passed("level %u of 255", level);
+    return Done("level %u of 255", level);
 }
 
 constexpr Test displayTests[] = {
-    {"backlight", "switches the display's backlight on, at a level", Backlight},
-    {"contrast", "sets the display's contrast", Contrast},
-    {"image", "shows the phone's file contrast.bmp", Image},
-    {"keypad-light", "light of keypad row 5, on and off", KeypadLight},
-    {"slider", "state of the slider", Slider},
+    {"backlight",
+     "switches the display's backlight on, at a level",
+     Backlight,
+     {},
+     Changes::Setting,
+     "Is the display lit?"},
+    {"contrast", "sets the display's contrast", Contrast, {}, Changes::Setting, "Is the display readable?"},
+    {"image",
+     "shows the phone's file contrast.bmp",
+     Image,
+     {},
+     Changes::Setting,
+     "Does the display show the test image?"},
+    {"keypad-light",
+     "light of keypad row 5, on and off",
+     KeypadLight,
+     {},
+     Changes::Nothing,
+     "Did the keypad light up?"},
+    {"slider", "state of the slider", Slider, {{"state"}}},
 };
 
 constexpr Test cameraTests[] = {
-    {"camera-ids", "starts each camera, reads its identification, stops it", CameraIds},
-    {"camera-text", "identification text of the camera", CameraText},
-    {"camera-flash", "sets the flash light's level and fires it", Flash},
-    {"camera-focus", "sets the focus", Focus},
+    {"camera-ids", "starts each camera, reads its identification, stops it", CameraIds, {{"first"}, {"second"}}},
+    {"camera-text", "identification text of the camera", CameraText, {{"text", textUnit}}},
+    {"camera-flash", "sets the flash light's level and fires it", Flash, {}, Changes::Setting, "Did the flash fire?"},
+    {"camera-focus", "sets the focus", Focus, {}, Changes::Setting},
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-// What tests tell of factory requests without an answer.
+// What tests say of factory requests without an answer.
 #pragma once
 
 #include "test.h"
@@ -8,10 +8,10 @@ namespace tandekor::line
 
 inline Outcome NotAnswered(const char* function)
 {
-    return Failed("no reply, or the phone refused the request\n%s gave 0", function);
+    return Failed(function, "no reply, or the phone refused the request");
 }
 
-// The requests of a test, one behind the other up to the first that fails.
+// The requests of a test, one after the other up to the first that fails.
 struct Requests
 {
     const char* last = nullptr;

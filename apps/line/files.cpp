@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -49,12 +50,12 @@ struct Calls
 {
     const Context& context;
     uint16_t error = 0;
-    Outcome outcome = Passed("%s", "");
+    Outcome outcome = Done("%s", "");
 
     bool Good(uint8_t result, const char* function)
     {
-        if ((result == 0 || error != 0) && outcome.passed)
-            outcome = Failed("%s\n%s gave %u with the error bits %u", Meaning(error).c_str(), function, result, error);
+        if ((result == 0 || error != 0) && !outcome.Is(Verdict::Failed))
+            outcome = Failed(function, "%s (result %u, error bits %u)", Meaning(error).c_str(), result, error);
         return result != 0 && error == 0;
     }
 
@@ -84,16 +85,15 @@ Outcome InObexMode(Context& context, void (*work)(Calls& calls))
     uint16_t status = 0;
     const uint8_t switched = TANDEKOR_AT_2_OBEX(context.handle, &status);
     if (switched == 0 || status != 0)
-        return Failed("the port did not go to OBEX\nTANDEKOR_AT_2_OBEX gave %u, status %u", switched, status);
+        return Failed("TANDEKOR_AT_2_OBEX", "the port did not go to OBEX (status %u)", status);
     Calls calls{context};
     work(calls);
     uint16_t firstByte = 0;
     TANDEKOR_OBEX_2_AT(context.handle, &firstByte);
     uint32_t activity = 0;
     const uint8_t answered = TANDEKOR_AT_Get_CPAS(context.handle, &activity, &status);
-    if (calls.outcome.passed && (answered == 0 || status != 0))
-        return Failed("the port did not come back to AT commands\nTANDEKOR_AT_Get_CPAS gave %u, status %u", answered,
-                      status);
+    if (!calls.outcome.Is(Verdict::Failed) && (answered == 0 || status != 0))
+        return Failed("TANDEKOR_AT_Get_CPAS", "the port did not come back to AT commands (status %u)", status);
     return calls.outcome;
 }
 
@@ -101,8 +101,9 @@ void ListRoot(Calls& calls)
 {
     std::string listing;
     if (calls.List("", listing))
-        calls.outcome = Passed("%zu folders and %zu files, listed in %zu bytes", CountOf(listing, "<folder "),
-                               CountOf(listing, "<file "), listing.size());
+        calls.outcome = Done("listed in %zu bytes", listing.size())
+                            .Add("folders", CountOf(listing, "<folder "))
+                            .Add("files", CountOf(listing, "<file "));
 }
 
 void ShowFreeSpace(Calls& calls)
@@ -110,19 +111,21 @@ void ShowFreeSpace(Calls& calls)
     uint32_t bytes = 0;
     if (calls.Good(TANDEKOR_OBEX_FreeSpaceCheck(calls.context.handle, &bytes, &calls.error),
                    "TANDEKOR_OBEX_FreeSpaceCheck"))
-        calls.outcome = Passed("%u KiB", bytes / 1024);
+        calls.outcome = Done("%s", "").Add("free", bytes / 1024);
 }
 
-// A folder of the host that is gone behind the test.
+// A folder of this machine that is gone after the test.
 class HostFolder
 {
 public:
-    HostFolder() : path((std::filesystem::temp_directory_path() / "tandekor-line-XXXXXX").string())
+    HostFolder()
     {
-        if (::mkdtemp(path.data()) == nullptr)
-            path.clear();
-        else
-            path += '/';
+        std::error_code ignored;
+        std::random_device random;
+        const std::filesystem::path folder = std::filesystem::temp_directory_path(ignored)
+                                             / ("tandekor-line-" + std::to_string(random()) + std::to_string(random()));
+        if (std::filesystem::create_directory(folder, ignored))
+            path = folder.string() + '/';
     }
     ~HostFolder()
     {
@@ -147,6 +150,11 @@ bool SendCopyAndFetch(Calls& calls, const std::string& folder, const std::string
     const ResourceContext handle = calls.context.handle;
     uint16_t* error = &calls.error;
     const HostFolder host;
+    if (host.path.empty())
+    {
+        calls.outcome = Failed("", "no folder for the file can be made on this machine");
+        return false;
+    }
     std::string content(fileSize, '\0');
     for (size_t i = 0; i < fileSize; ++i)
         content[i] = static_cast<char>(i ^ i >> 8);
@@ -162,16 +170,17 @@ bool SendCopyAndFetch(Calls& calls, const std::string& folder, const std::string
         return false;
     if (listing.find(fileName) == std::string::npos)
     {
-        calls.outcome = Failed("the copied file is not in the listing of %s", copies.c_str());
+        calls.outcome = Failed("", "the copied file is not in the listing of %s", copies.c_str());
         return false;
     }
-    std::filesystem::remove(host.path + fileName);
+    std::error_code ignored;
+    std::filesystem::remove(host.path + fileName, ignored);
     if (!calls.Good(TANDEKOR_OBEX_GetFile(handle, copies.c_str(), fileName, host.path.c_str(), error),
                     "TANDEKOR_OBEX_GetFile"))
         return false;
     if (ContentOf(host.path + fileName) != content)
     {
-        calls.outcome = Failed("the file came back changed");
+        calls.outcome = Failed("", "the file came back changed");
         return false;
     }
     return true;
@@ -194,18 +203,24 @@ void Transfer(Calls& calls)
     if (!transferred || !deleted || !calls.List("", listing))
         return;
     if (listing.find(testFolder) != std::string::npos)
-        calls.outcome = Failed("the folder %s is still there after it was deleted", testFolder);
+        calls.outcome = Failed("", "the folder %s is still there after it was deleted", testFolder);
     else
         calls.outcome = Passed("%zu KiB sent, copied, fetched unchanged and deleted", fileSize / 1024);
 }
 
 constexpr Test tests[] = {
-    {"root-folder", "listing of the root folder", [](Context& context) { return InObexMode(context, ListRoot); }},
+    {"root-folder",
+     "listing of the root folder",
+     [](Context& context) { return InObexMode(context, ListRoot); },
+     {{"folders"}, {"files"}}},
     {.name = "file-transfer",
      .description = "sends a file to a new folder, copies and fetches it, and deletes all",
      .run = [](Context& context) { return InObexMode(context, Transfer); },
-     .awaited = "phone to take the file and to give it back"},
-    {"free-space", "free space for files", [](Context& context) { return InObexMode(context, ShowFreeSpace); }},
+     .waitsFor = "phone to take the file and to give it back"},
+    {"free-space",
+     "free space for files",
+     [](Context& context) { return InObexMode(context, ShowFreeSpace); },
+     {{"free", "KiB"}}},
 };
 
 }  // namespace

@@ -13,16 +13,16 @@ Outcome Chip(Context& context)
     uint16_t chip = 0;
     if (TANDEKOR_FTM_GET_FM_RADIO_ID(context.handle, &chip) == 0)
         return NotAnswered("TANDEKOR_FTM_GET_FM_RADIO_ID");
-    return Passed("chip 0x%04X", chip);
+    return Done("0x%04X", chip).Add("chip", chip);
 }
 
 Outcome Tune(Context& context)
 {
-    constexpr uint16_t channel = 9460;
+    const uint16_t channel = context.options.radio.channelFm;
     uint16_t status = 0;
     if (TANDEKOR_FTM_TUNE_FM_RADIO(context.handle, channel, &status) == 0)
         return NotAnswered("TANDEKOR_FTM_TUNE_FM_RADIO");
-    return Passed("channel %u, status %u", channel, status);
+    return Done("channel %u", channel).Add("status", status);
 }
 
 Outcome Scan(Context& context)
@@ -34,9 +34,7 @@ Outcome Scan(Context& context)
     std::string list;
     for (unsigned i = 0; valid == 1 && i < count; ++i)
         list += ' ' + std::to_string(stations[i]);
-    if (list.empty())
-        return Failed("no station found\nTANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF gave valid %u, count %u", valid, count);
-    return Passed("%u stations:%s", count, list.c_str());
+    return Done("received:%s", list.empty() ? " none" : list.c_str()).Add("stations", valid == 1 ? count : 0);
 }
 
 Outcome Station(Context& context)
@@ -47,8 +45,8 @@ Outcome Station(Context& context)
                                                &words[1], &bytes[3], &bytes[4], &bytes[5], &bytes[6], &words[2])
         == 0)
         return NotAnswered("TANDEKOR_FTM_FM_RADIO_GET_STATION_INFO");
-    return Passed("fields %u %u %u %u %u %u %u %u %u %u", bytes[0], words[0], bytes[1], bytes[2], words[1], bytes[3],
-                  bytes[4], bytes[5], bytes[6], words[2]);
+    return Done("fields %u %u %u %u %u %u %u %u %u %u", bytes[0], words[0], bytes[1], bytes[2], words[1], bytes[3],
+                bytes[4], bytes[5], bytes[6], words[2]);
 }
 
 Outcome Program(Context& context)
@@ -58,18 +56,20 @@ Outcome Program(Context& context)
     char text[96] = {};
     if (TANDEKOR_FTM_FM_RADIO_GET_PROGRAM_INFO(context.handle, &status, &first, &second, text, &third, &fourth) == 0)
         return NotAnswered("TANDEKOR_FTM_FM_RADIO_GET_PROGRAM_INFO");
-    return Passed("'%s', fields %u %u %u %u", text, first, second, third, fourth);
+    return Done("fields %u %u %u %u", first, second, third, fourth).Add("text", text);
 }
 
 constexpr Test tests[] = {
-    {"fm-chip", "identifier of the radio chip", Chip},
-    {"fm-tune", "tunes to channel 9460", Tune},
+    {"fm-chip", "identifier of the radio chip", Chip, {{"chip"}}},
+    {"fm-tune", "tunes to the station file's channel", Tune, {{"status"}}, Changes::Setting},
     {.name = "fm-scan",
      .description = "stations that are received",
      .run = Scan,
-     .awaited = "radio to go through its band"},
+     .measures = {{"stations"}},
+     .changes = Changes::Setting,
+     .waitsFor = "radio to go through its band"},
     {"fm-station", "fields of the station tuned to", Station},
-    {"fm-program", "program text of the station", Program},
+    {"fm-program", "program text of the station", Program, {{"text", textUnit}}},
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <cstdarg>
 #include <cstdio>
+#include <utility>
 
 #include "test.h"
 
@@ -9,8 +10,8 @@ namespace tandekor::line
 extern const Group pinsGroup, simGroup, cardGroup, radioGroup, displayGroup, cameraGroup;
 extern const Group audioGroup, keypadGroup, bluetoothGroup, chargingGroup, identityGroup, uploadGroup;
 extern const Group receiverGroup, transmitterGroup, signallingGroup, networkGroup;
-extern const Group startGroup, versionsGroup, identificationGroup, hardwareGroup, atGroup, phoneGroup, filesGroup,
-    endGroup;
+extern const Group startGroup, serviceGroup, versionsGroup, identificationGroup, hardwareGroup, atGroup, phoneGroup,
+    filesGroup, endGroup;
 
 std::span<const Group* const> Groups()
 {
@@ -19,7 +20,7 @@ std::span<const Group* const> Groups()
            &simGroup,     &cardGroup,     &radioGroup,          &displayGroup,     &cameraGroup,
            &audioGroup,   &keypadGroup,   &bluetoothGroup,      &identityGroup,    &atGroup,
            &phoneGroup,   &filesGroup,    &receiverGroup,       &transmitterGroup, &signallingGroup,
-           &networkGroup, &chargingGroup, &uploadGroup,         &endGroup};
+           &networkGroup, &chargingGroup, &uploadGroup,         &serviceGroup,     &endGroup};
     return groups;
 }
 
@@ -39,18 +40,33 @@ Outcome Passed(const char* format, ...)
 {
     va_list values;
     va_start(values, format);
-    const std::string text = Format(format, values);
+    std::string text = Format(format, values);
     va_end(values);
-    return {true, text};
+    return {.verdict = Verdict::Passed, .text = std::move(text)};
 }
 
-Outcome Failed(const char* format, ...)
+Outcome Failed(const char* function, const char* format, ...)
 {
     va_list values;
     va_start(values, format);
-    const std::string text = Format(format, values);
+    std::string text = Format(format, values);
     va_end(values);
-    return {false, text};
+    return {.verdict = Verdict::Failed, .text = std::move(text), .function = function};
+}
+
+Outcome Done(const char* format, ...)
+{
+    va_list values;
+    va_start(values, format);
+    std::string text = Format(format, values);
+    va_end(values);
+    return {.verdict = Verdict::NotJudged, .text = std::move(text)};
+}
+
+const char* Name(Changes changes)
+{
+    static constexpr const char* names[] = {"nothing", "setting", "storage", "radiates"};
+    return names[static_cast<size_t>(changes)];
 }
 
 }  // namespace tandekor::line

@@ -13,7 +13,7 @@ Outcome HardwareVersion(Context& context)
     uint32_t word = 0;
     if (TANDEKOR_FTM_GET_HARDWARE_VERSION(context.handle, &word) == 0)
         return NotAnswered("TANDEKOR_FTM_GET_HARDWARE_VERSION");
-    return Passed("chip version 0x%04X (word 0x%08X)", word >> 12 & 0xFFFF, word);
+    return Done("word 0x%08X", word).Add("chip", word >> 12 & 0xFFFF);
 }
 
 Outcome HardwareId(Context& context)
@@ -21,7 +21,7 @@ Outcome HardwareId(Context& context)
     uint16_t id = 0;
     if (TANDEKOR_FTM_GET_HW_ID(context.handle, &id) == 0)
         return NotAnswered("TANDEKOR_FTM_GET_HW_ID");
-    return Passed("hardware variant %u", id);
+    return Done("%s", "").Add("variant", id);
 }
 
 Outcome NandFlash(Context& context)
@@ -29,7 +29,7 @@ Outcome NandFlash(Context& context)
     uint16_t id = 0;
     if (TANDEKOR_FTM_GET_NAND_FLASH_ID(context.handle, &id) == 0)
         return NotAnswered("TANDEKOR_FTM_GET_NAND_FLASH_ID");
-    return Passed("identifier 0x%04X", id);
+    return Done("0x%04X", id).Add("identifier", id);
 }
 
 Outcome FuelGauge(Context& context)
@@ -37,7 +37,7 @@ Outcome FuelGauge(Context& context)
     uint8_t version = 0;
     if (TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION(context.handle, &version) == 0)
         return NotAnswered("TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION");
-    return Passed("version %u", version);
+    return Done("%s", "").Add("version", version);
 }
 
 Outcome Bluetooth(Context& context)
@@ -48,14 +48,14 @@ Outcome Bluetooth(Context& context)
     uint8_t third = 0;
     if (TANDEKOR_FTM_GET_BT_PARAM(context.handle, &status, &first, &second, &third) == 0)
         return NotAnswered("TANDEKOR_FTM_GET_BT_PARAM");
-    return Passed("parameters 0x%02X 0x%02X 0x%02X", first, second, third);
+    return Done("parameters 0x%02X 0x%02X 0x%02X", first, second, third);
 }
 
 constexpr Test tests[] = {
-    {"hardware-version", "word of the hardware version", HardwareVersion},
-    {"hardware-id", "identifier of the hardware variant", HardwareId},
-    {"nand-flash", "identifier of the NAND flash", NandFlash},
-    {"fuel-gauge", "version of the fuel gauge", FuelGauge},
+    {"hardware-version", "word of the hardware version", HardwareVersion, {{"chip"}}},
+    {"hardware-id", "identifier of the hardware variant", HardwareId, {{"variant"}}},
+    {"nand-flash", "identifier of the NAND flash", NandFlash, {{"identifier"}}},
+    {"fuel-gauge", "version of the fuel gauge", FuelGauge, {{"version"}}},
     {"bt-parameters", "parameters of the Bluetooth module", Bluetooth},
 };
 

@@ -12,10 +12,10 @@ Outcome LibraryVersion(Context&)
 {
     char version[64] = {};
     TANDEKOR_GetExtensionVersion(version);
-    return Passed("%s", version);
+    return Done("%s", "").Add("version", version);
 }
 
-// A connection stands for the host library's version: any other version is not connected to.
+// A connection stands for the host library's version, as any other version is not connected to.
 Outcome HostVersion(Context&)
 {
     char version[64] = {};
@@ -39,10 +39,11 @@ Outcome SoftwareBuild(Context& context)
                               fields[1], fields[2], fields[3], fields[4], fields[5], fields[6], &msmHardwareVersion,
                               &mobModel, buildId, buildModel)
         == 0)
-        return Failed("the software build could not be read\nTANDEKOR_CheckSWBuild gave 0");
-    return Passed("build %.511s, model %.511s (%u), chip 0x%04X\ncompiled %s %s, directory %s\nreleased %s %s", buildId,
-                  buildModel, mobModel, msmHardwareVersion, compileDate, compileTime, versionDir, releaseDate,
-                  releaseTime);
+        return Failed("TANDEKOR_CheckSWBuild", "the software build could not be read");
+    return Done("model %u, chip 0x%04X, directory %s\ncompiled %s %s, released %s %s", mobModel, msmHardwareVersion,
+                versionDir, compileDate, compileTime, releaseDate, releaseTime)
+        .Add("build", buildId)
+        .Add("model", buildModel);
 }
 
 Outcome PhoneModel(Context& context)
@@ -51,21 +52,27 @@ Outcome PhoneModel(Context& context)
     uint32_t chipFamily = 0;
     uint32_t model = 0;
     if (TANDEKOR_Phone_Model(context.handle, &variant, &chipFamily, &model) == 0)
-        return Failed("the phone could not be identified\nTANDEKOR_Phone_Model gave 0");
+        return Failed("TANDEKOR_Phone_Model", "the phone could not be identified");
     if (model == 0)
-        return Failed("unknown phone\nTANDEKOR_Phone_Model gave hardware variant %u, chip family %u, no model", variant,
+        return Failed("TANDEKOR_Phone_Model", "unknown phone: hardware variant %u, chip family %u", variant,
                       chipFamily);
-    return Passed("phone model %u (hardware variant %u, chip family %u)", model, variant, chipFamily);
+    return Done("hardware variant %u, chip family %u", variant, chipFamily).Add("model", model);
 }
 
 constexpr Test versionTests[] = {
-    {"library", "version of the library", LibraryVersion, State::Unconnected},
-    {"host-library", "version of the host library", HostVersion, State::Connected},
-    {"software", "software build of the phone", SoftwareBuild},
+    {"library",
+     "version of the library",
+     LibraryVersion,
+     {{"version", textUnit}},
+     Changes::Nothing,
+     nullptr,
+     State::Unconnected},
+    {"host-library", "version of the host library", HostVersion, {}, Changes::Nothing, nullptr, State::Connected},
+    {"software", "software build of the phone", SoftwareBuild, {{"build", textUnit}, {"model", textUnit}}},
 };
 
 constexpr Test identificationTests[] = {
-    {"model", "phone model by chip family and hardware variant", PhoneModel},
+    {"model", "phone model by chip family and hardware variant", PhoneModel, {{"model"}}},
 };
 
 }  // namespace

@@ -34,19 +34,19 @@ Outcome ReadImei(Context& context)
 {
     char imei[imeiDigits + 1] = {};
     if (TANDEKOR_NV_READ_IMEI(context.handle, imei) == 0)
-        return Failed("the IMEI could not be read\nTANDEKOR_NV_READ_IMEI gave 0");
-    return IsImei(imei) ? Passed("%s", imei) : Failed("not an IMEI, by its digits or its check digit: %s", imei);
+        return Failed("TANDEKOR_NV_READ_IMEI", "the IMEI could not be read");
+    return IsImei(imei) ? Passed("%s", imei) : Failed("", "not an IMEI, by its digits or its check digit: %s", imei);
 }
 
 Outcome WriteImei(Context& context)
 {
     const std::string& imei = context.options.imei;
     if (TANDEKOR_NV_WRITE_IMEI(context.handle, imei.c_str()) == 0)
-        return Failed("the IMEI could not be written, or reads back changed\nTANDEKOR_NV_WRITE_IMEI gave 0");
+        return Failed("TANDEKOR_NV_WRITE_IMEI", "the IMEI could not be written, or reads back changed");
     return Passed("%s, written and read back", imei.c_str());
 }
 
-std::string LacksImei(const Options& options)
+std::string MissingImei(const Options& options)
 {
     return IsImei(options.imei) ? "" : "imei-write needs an IMEI of 15 digits, the last its check digit: --imei";
 }
@@ -55,14 +55,14 @@ Outcome Flash(Context& context)
 {
     uint32_t id = 0;
     if (TANDEKOR_FlashTest(context.handle, &id) == 0)
-        return Failed("the flash could not be identified\nTANDEKOR_FlashTest gave 0");
-    return Passed("maker 0x%02X, device 0x%02X", id >> 8, id & 0xFF);
+        return Failed("TANDEKOR_FlashTest", "the flash could not be identified");
+    return Done("maker 0x%02X, device 0x%02X", id >> 8, id & 0xFF).Add("maker", id >> 8).Add("device", id & 0xFF);
 }
 
 Outcome MemoryCard(Context& context)
 {
     if (TANDEKOR_SpecialMmcTest(context.handle) == 0)
-        return Failed("no card, or it does not keep what is written\nTANDEKOR_SpecialMmcTest gave 0");
+        return Failed("TANDEKOR_SpecialMmcTest", "no card, or it does not keep what is written");
     return Passed("16 bytes written and read back");
 }
 
@@ -77,7 +77,7 @@ struct FreezeValues
     };
     std::array<Value, 4> values = {{{"imei", 9}, {"bluetooth-address", 6}, {"serial-number", 16}, {"public-key", 260}}};
 
-    // From a file with a line for each: its name and its bytes as hexadecimal digits. Gives what is wrong with it.
+    // From a file with a line for each: its name and its bytes as hexadecimal digits. Returns what is wrong with it.
     std::string ReadFrom(const std::string& path)
     {
         std::ifstream file(path);
@@ -104,7 +104,7 @@ struct FreezeValues
     }
 };
 
-std::string LacksFreezeValues(const Options& options)
+std::string MissingFreezeValues(const Options& options)
 {
     if (!options.mayFreeze || options.freezeFile.empty())
         return "freeze needs --freeze-values and --i-know-freezing-cannot-be-undone";
@@ -115,24 +115,29 @@ Outcome Freeze(Context& context)
 {
     FreezeValues freezing;
     if (const std::string problem = freezing.ReadFrom(context.options.freezeFile); !problem.empty())
-        return Failed("%s", problem.c_str());
+        return Failed("", "%s", problem.c_str());
     const auto& [imei, address, serial, key] = freezing.values;
     if (TANDEKOR_DIAG_FREEZE_PHONE(context.handle, imei.bytes.data(), address.bytes.data(), serial.bytes.data(),
                                    key.bytes.data())
         == 0)
-        return Failed("the phone is not frozen\nTANDEKOR_DIAG_FREEZE_PHONE gave 0");
+        return Failed("TANDEKOR_DIAG_FREEZE_PHONE", "the phone is not frozen");
     return Passed("frozen for ever");
 }
 
 constexpr Test tests[] = {
     {"imei", "IMEI and its check digit", ReadImei},
-    {"flash", "maker and device of the flash", Flash},
-    {"memory-card", "writes a file on the memory card and reads it", MemoryCard},
-    {.name = "imei-write", .description = "writes the IMEI of --imei", .run = WriteImei, .lacks = LacksImei},
+    {"flash", "maker and device of the flash", Flash, {{"maker"}, {"device"}}},
+    {"memory-card", "writes a file on the memory card and reads it", MemoryCard, {}, Changes::Storage},
+    {.name = "imei-write",
+     .description = "writes the IMEI of --imei",
+     .run = WriteImei,
+     .changes = Changes::Storage,
+     .missing = MissingImei},
     {.name = "freeze",
      .description = "compares the identity, writes the key and locks the phone for ever",
      .run = Freeze,
-     .lacks = LacksFreezeValues},
+     .changes = Changes::Storage,
+     .missing = MissingFreezeValues},
 };
 
 }  // namespace

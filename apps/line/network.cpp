@@ -15,15 +15,15 @@ constexpr uint8_t off = 0;
 Outcome Roaming(Context& context)
 {
     if (TANDEKOR_NV_SetRoamingListStatus(context.handle, on) == 0)
-        return Failed("the roaming list could not be switched\nTANDEKOR_NV_SetRoamingListStatus gave 0");
-    return Passed("list on");
+        return Failed("TANDEKOR_NV_SetRoamingListStatus", "the roaming list could not be switched");
+    return Done("list on");
 }
 
 Outcome AutoAnswer(Context& context)
 {
     if (TANDEKOR_NVSetAutoAnswerStatus(context.handle, off) == 0)
-        return Failed("the automatic answer could not be switched\nTANDEKOR_NVSetAutoAnswerStatus gave 0");
-    return Passed("off");
+        return Failed("TANDEKOR_NVSetAutoAnswerStatus", "the automatic answer could not be switched");
+    return Done("off");
 }
 
 Outcome Preselection(Context& context)
@@ -31,15 +31,15 @@ Outcome Preselection(Context& context)
     constexpr uint8_t automatic = 0;  // any network, with no channel to begin at
     constexpr uint16_t noChannel = 0;
     if (TANDEKOR_NetworkAndChannelPreselection(context.handle, automatic, automatic, noChannel) == 0)
-        return Failed("the network could not be preselected\nTANDEKOR_NetworkAndChannelPreselection gave 0");
-    return Passed("network mode %u, no last channel", automatic);
+        return Failed("TANDEKOR_NetworkAndChannelPreselection", "the network could not be preselected");
+    return Done("network mode %u, no last channel", automatic);
 }
 
 Outcome Clock(Context& context)
 {
     if (TANDEKOR_SpecialSetRtcActualTime(context.handle) == 0)
-        return Failed("the clock could not be set\nTANDEKOR_SpecialSetRtcActualTime gave 0");
-    return Passed("set to this machine's universal time");
+        return Failed("TANDEKOR_SpecialSetRtcActualTime", "the clock could not be set");
+    return Done("set to this machine's universal time");
 }
 
 Outcome ActivateSim(Context& context)
@@ -48,21 +48,23 @@ Outcome ActivateSim(Context& context)
     constexpr uint8_t accepted = 1;
     uint8_t answer = 0;
     if (TANDEKOR_Virtual_SIM(context.handle, serviceCode, &answer) == 0)
-        return Failed("the virtual SIM is not active\nTANDEKOR_Virtual_SIM gave 0");
-    return Passed("active; service code %s", answer == accepted ? "accepted" : "not accepted");
+        return Failed("TANDEKOR_Virtual_SIM", "the virtual SIM is not active");
+    return Done("active").Add("service-code", answer == accepted ? "accepted" : "refused");
 }
 
 Outcome VirtualSim(Context& context) { return RunOnline(context, ActivateSim); }
 
 constexpr Test tests[] = {
-    {"roaming", "switches the roaming list on", Roaming},
-    {"auto-answer", "switches the automatic answer off", AutoAnswer},
-    {"preselection", "lets the phone look for any network", Preselection},
-    {"rtc", "sets the phone's clock to universal time", Clock},
+    {"roaming", "switches the roaming list on", Roaming, {}, Changes::Storage},
+    {"auto-answer", "switches the automatic answer off", AutoAnswer, {}, Changes::Storage},
+    {"preselection", "lets the phone look for any network", Preselection, {}, Changes::Storage},
+    {"rtc", "sets the phone's clock to universal time", Clock, {}, Changes::Storage},
     {.name = "virtual-sim",
      .description = "activates the virtual SIM of the phone online",
      .run = VirtualSim,
-     .awaited = "phone to change its mode"},
+     .measures = {{"service-code", textUnit}},
+     .changes = Changes::Storage,
+     .waitsFor = "phone to change its mode"},
 };
 
 }  // namespace

@@ -30,7 +30,7 @@ Outcome Pin(Context& context)
         || requests.Fails("TANDEKOR_GPIO_GET_OUT", TANDEKOR_GPIO_GET_OUT(handle, pin, &again, &status)))
         return NotAnswered(requests.last);
     if (again != out)
-        return Failed("pin %u does not keep its level\nTANDEKOR_GPIO_GET_OUT gave %u, then %u", pin, out, again);
+        return Failed("TANDEKOR_GPIO_GET_OUT", "pin %u does not keep its level: %u, then %u", pin, out, again);
     return Passed("pin %u: output %u (%s), input %u, function %u, direction %u", pin, out,
                   enabled != 0 ? "enabled" : "not enabled", in, function, direction);
 }
@@ -41,7 +41,7 @@ Outcome I2cDevice(Context& context)
     uint8_t data[28] = {};
     if (TANDEKOR_FTM_I2C_DATA_ACCESS(context.handle, 0, radioChip, 0, 0, sizeof data, data) == 0)
         return NotAnswered("TANDEKOR_FTM_I2C_DATA_ACCESS");
-    return Passed("%zu bytes of device 0x%02X, byte 9 0x%02X", sizeof data, radioChip, data[9]);
+    return Done("%zu bytes of device 0x%02X", sizeof data, radioChip).Add("byte-9", data[9]);
 }
 
 Outcome Adc(Context& context)
@@ -51,7 +51,7 @@ Outcome Adc(Context& context)
     uint32_t sum = 0;
     if (TANDEKOR_FTM_MGET_ADC_VAL(context.handle, channel, readings, &sum) == 0)
         return NotAnswered("TANDEKOR_FTM_MGET_ADC_VAL");
-    return Passed("channel %u: %u.%u, average of %u readings", channel, sum / readings, sum % readings, readings);
+    return Done("channel %u, average of %u readings", channel, readings).Add("average", sum / double{readings});
 }
 
 Outcome GaugeRegister(Context& context)
@@ -61,7 +61,7 @@ Outcome GaugeRegister(Context& context)
     uint16_t value = 0;
     if (TANDEKOR_FTM_GG_READ_REG(context.handle, number, &status, &value) == 0)
         return NotAnswered("TANDEKOR_FTM_GG_READ_REG");
-    return Passed("register %u: %u", number, value);
+    return Done("register %u", number).Add("value", value);
 }
 
 Outcome CameraSwitch(Context& context)
@@ -69,15 +69,15 @@ Outcome CameraSwitch(Context& context)
     constexpr uint8_t cameraSwitch = 1;
     if (TANDEKOR_FTM_CONFIGURE_SWITCH(context.handle, cameraSwitch, 0) == 0)
         return NotAnswered("TANDEKOR_FTM_CONFIGURE_SWITCH");
-    return Passed("switch %u at camera 0", cameraSwitch);
+    return Done("switch %u at camera 0", cameraSwitch);
 }
 
 constexpr Test tests[] = {
     {"pin", "levels and configuration of pin 0, written as they were read", Pin},
-    {"i2c", "registers of the radio chip, by I2C", I2cDevice},
-    {"adc", "average of channel 0 of the ADC", Adc},
-    {"gauge-register", "register 0 of the fuel gauge", GaugeRegister},
-    {"camera-switch", "sets the supply switch to camera 0 until the next start", CameraSwitch},
+    {"i2c", "registers of the radio chip, by I2C", I2cDevice, {{"byte-9"}}},
+    {"adc", "average of channel 0 of the ADC", Adc, {{"average"}}},
+    {"gauge-register", "register 0 of the fuel gauge", GaugeRegister, {{"value"}}},
+    {"camera-switch", "sets the supply switch to camera 0 until the next start", CameraSwitch, {}, Changes::Setting},
 };
 
 }  // namespace

@@ -9,7 +9,6 @@ namespace tandekor::line
 namespace
 {
 
-constexpr uint16_t wcdmaBand = 4;  // the set of NV items of the phone's WCDMA band
 constexpr uint16_t lnaOffsetItems[] = {524, 865, 866};
 constexpr uint16_t startModeItem = 453;
 constexpr uint8_t lnaRange = 0;
@@ -21,11 +20,12 @@ Outcome Gsm(Context& context)
     constexpr int16_t rxFunction = 0;
     uint8_t offsets[128] = {};
     int16_t rssi[4] = {};  // the host library may write more than the first one
-    if (TANDEKOR_RX_GSM_Adjust(context.handle, offsets, modeGsm900, channelGsm900, burstSlot, rxFunction, lnaRange,
-                               rssi)
+    const RadioValues& radio = context.options.radio;
+    if (TANDEKOR_RX_GSM_Adjust(context.handle, offsets, radio.modeGsm, radio.channelGsm, burstSlot, rxFunction,
+                               lnaRange, rssi)
         == 0)
-        return Failed("the receiver could not be measured\nTANDEKOR_RX_GSM_Adjust gave 0");
-    return Passed("RSSI %d on channel %u, LNA range %u", rssi[0], channelGsm900, lnaRange);
+        return Failed("TANDEKOR_RX_GSM_Adjust", "the receiver could not be measured");
+    return Done("channel %u, LNA range %u", radio.channelGsm, lnaRange).Add("rssi", rssi[0]);
 }
 
 struct WcdmaValues
@@ -46,9 +46,10 @@ bool Measure(const Context& context, uint16_t item, WcdmaValues& values)
     uint16_t writeStatus = 0;
     uint16_t readStatus = 0;
     return TANDEKOR_RX_WCDMA_Adjust(context.handle, lnaRange, expectedAgc, values.dvga, startModeItem, startMode, 1,
-                                    &writeStatus, wcdmaBand, *context.options.vgaGain, nullptr, wcdmaBand,
-                                    values.fall[0], values.fall[1], values.fall[2], item, values.item, 2, &readStatus,
-                                    wcdmaBand, values.rise[0], values.rise[1], values.rise[2], lnaIndex, expectedAgc,
+                                    &writeStatus, context.options.radio.bandReceiver, *context.options.vgaGain, nullptr,
+                                    context.options.radio.bandReceiver, values.fall[0], values.fall[1], values.fall[2],
+                                    item, values.item, 2, &readStatus, context.options.radio.bandReceiver,
+                                    values.rise[0], values.rise[1], values.rise[2], lnaIndex, expectedAgc,
                                     &values.lnaOffset)
                != 0
            && writeStatus == 0 && readStatus == 0;
@@ -56,8 +57,7 @@ bool Measure(const Context& context, uint16_t item, WcdmaValues& values)
 
 Outcome NotMeasured()
 {
-    return Failed(
-        "the receiver could not be measured, or an item not read\nTANDEKOR_RX_WCDMA_Adjust gave 0 or a status");
+    return Failed("TANDEKOR_RX_WCDMA_Adjust", "the receiver could not be measured, or an item not read");
 }
 
 Outcome Wcdma(Context& context)
@@ -65,9 +65,10 @@ Outcome Wcdma(Context& context)
     WcdmaValues values;
     if (!Measure(context, lnaOffsetItems[0], values))
         return NotMeasured();
-    return Passed("DVGA offset %d, LNA offset %d; thresholds fall %d %d %d, rise %d %d %d", values.dvga[0],
-                  values.lnaOffset, WordAt(values.fall[0]), WordAt(values.fall[1]), WordAt(values.fall[2]),
-                  WordAt(values.rise[0]), WordAt(values.rise[1]), WordAt(values.rise[2]));
+    return Done("thresholds fall %d %d %d, rise %d %d %d", WordAt(values.fall[0]), WordAt(values.fall[1]),
+                WordAt(values.fall[2]), WordAt(values.rise[0]), WordAt(values.rise[1]), WordAt(values.rise[2]))
+        .Add("dvga-offset", values.dvga[0])
+        .Add("lna-offset", values.lnaOffset);
 }
 
 // The offsets are stored as they stand in the phone; the tables stay alone.
@@ -84,29 +85,33 @@ Outcome Store(Context& context)
     constexpr uint8_t batch = 1;
     if (TANDEKOR_Write_RX_Adjustment_Values(context.handle, batch, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                                             nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                            nullptr, nullptr, wcdmaBand, offsets[0], nullptr, offsets[1], nullptr,
-                                            offsets[2], nullptr, wcdmaBand, *context.options.vgaGain, nullptr)
+                                            nullptr, nullptr, context.options.radio.bandReceiver, offsets[0], nullptr,
+                                            offsets[1], nullptr, offsets[2], nullptr,
+                                            context.options.radio.bandReceiver, *context.options.vgaGain, nullptr)
         == 0)
-        return Failed("the calibration could not be stored\nTANDEKOR_Write_RX_Adjustment_Values gave 0");
-    return Passed("LNA offsets %d %d %d stored as they were, gain %u", offsets[0], offsets[1], offsets[2],
-                  *context.options.vgaGain);
+        return Failed("TANDEKOR_Write_RX_Adjustment_Values", "the calibration could not be stored");
+    return Done("LNA offsets %d %d %d stored as they were, gain %u", offsets[0], offsets[1], offsets[2],
+                *context.options.vgaGain);
 }
 
-std::string LacksVgaGain(const Options& options)
+std::string MissingVgaGain(const Options& options)
 {
     return options.vgaGain ? "" : "rx-wcdma and rx-store store a gain: --vga-gain";
 }
 
 constexpr Test tests[] = {
-    {"rx-gsm", "measures the GSM receiver", Gsm},
+    {"rx-gsm", "measures the GSM receiver", Gsm, {{"rssi", "dBm"}}, Changes::Setting},
     {.name = "rx-wcdma",
      .description = "measures the WCDMA receiver and stores --vga-gain",
      .run = Wcdma,
-     .lacks = LacksVgaGain},
+     .measures = {{"dvga-offset"}, {"lna-offset"}},
+     .changes = Changes::Storage,
+     .missing = MissingVgaGain},
     {.name = "rx-store",
      .description = "stores the LNA offsets as they are, and --vga-gain",
      .run = Store,
-     .lacks = LacksVgaGain},
+     .changes = Changes::Storage,
+     .missing = MissingVgaGain},
 };
 
 }  // namespace

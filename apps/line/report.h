@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "test.h"
 
@@ -21,23 +20,19 @@ public:
 
     // A line that stands for the running test until its result is there; only on a terminal. A percentage below 0
     // is not known.
-    void Progress(const Test& test, uint32_t elapsedMs, int percent) const;
+    void Progress(const Test& test, const std::string& place, uint32_t elapsedMs, int percent) const;
 
-    void Result(const Test& test, const Outcome& outcome, uint32_t elapsedMs);
-    void NotRun(const Test& test, const char* reason);
+    void Question(const char* question) const;
+    void Result(const TestRecord& test) const;
 
-    // Gives whether all tests passed.
-    bool Summary(const std::string& phone, uint32_t elapsedMs, const std::string& logPath) const;
+    void Summary(const RunRecord& run) const;
 
 private:
-    void Line(const char* verdict, const char* colour, const std::string& time, const Test& test,
-              const std::string& text) const;
-
     bool terminal;
     bool colours;
-    int passed = 0;
-    int notRun = 0;
-    std::vector<std::string> failed;
 };
+
+// The verdict of all tests together. Fixtures alone do not make a good phone.
+Verdict VerdictOf(const RunRecord& run);
 
 }  // namespace tandekor::line

@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <cctype>
 #include <numeric>
 
 #include "runner.h"
+#include "station.h"
 
 namespace tandekor::line
 {
@@ -28,13 +30,64 @@ size_t EditDistance(const std::string& from, const std::string& to)
     return row.back();
 }
 
-std::string UnknownName(const std::string& name)
+std::string LowerCase(std::string text)
 {
-    std::string close;
-    const auto consider = [&](const std::string& known)
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char one) { return static_cast<char>(std::tolower(one)); });
+    return text;
+}
+
+template <typename Action>
+void ForEachTest(Action action)
+{
+    for (const Group* group : Groups())
     {
-        if (EditDistance(name, known) <= std::max<size_t>(1, name.size() / 3) || known.find(name) != std::string::npos)
-            close += (close.empty() ? "" : ", ") + known;
+        for (const Test& test : group->tests)
+            action(*group, test);
+    }
+}
+
+// Tests that are missing something are selected by their own names alone.
+bool AddNamed(const std::string& anyCase, Selection& selection)
+{
+    const std::string name = LowerCase(anyCase);
+    bool found = false;
+    ForEachTest(
+        [&](const Group& group, const Test& test)
+        {
+            if (name != test.name && (name != group.name || test.missing != nullptr))
+                return;
+            selection.insert(&test);
+            found = true;
+        });
+    return found;
+}
+
+void AddFixtures(Selection& selection)
+{
+    State reached = State::Unconnected;
+    for (const Test* test : selection)
+        reached = std::max({reached, test->needs, test->fixtureOf});
+    ForEachTest(
+        [&](const Group&, const Test& test)
+        {
+            if (test.fixtureOf != State::Unconnected && test.fixtureOf <= reached)
+                selection.insert(&test);
+        });
+}
+
+}  // namespace
+
+std::string UnknownName(const std::string& anyCase)
+{
+    const std::string name = LowerCase(anyCase);
+    bool known = false;
+    std::string close;
+    const auto consider = [&](const std::string& other)
+    {
+        known = known || name == other;
+        if (EditDistance(name, other) <= std::max<size_t>(1, name.size() / 3) || other.find(name) != std::string::npos)
+            close += (close.empty() ? "" : ", ") + other;
     };
     for (const Group* group : Groups())
     {
@@ -42,61 +95,43 @@ std::string UnknownName(const std::string& name)
         for (const Test& test : group->tests)
             consider(test.name);
     }
-    return "no test or group is named '" + name + "'; " + (close.empty() ? "" : "near: " + close + "; ")
+    if (known)
+        return "";
+    return "no test or group is named '" + anyCase + "'; " + (close.empty() ? "" : "near: " + close + "; ")
            + "--list shows all";
 }
 
-bool AddNamed(const std::string& name, Selection& selection)
+std::string Select(const Options& options, Selection& selection)
 {
-    bool found = false;
-    for (const Group* group : Groups())
-    {
-        for (const Test& test : group->tests)
-        {
-            if (name != test.name && (name != group->name || test.lacks != nullptr))
-                continue;
-            selection.insert(&test);
-            found = true;
-        }
-    }
-    return found;
-}
-
-void AddFrame(Selection& selection)
-{
-    State reached = State::Unconnected;
-    for (const Test* test : selection)
-        reached = std::max({reached, test->needs, test->frameOf});
-    for (const Group* group : Groups())
-    {
-        for (const Test& test : group->tests)
-        {
-            if (test.frameOf != State::Unconnected && test.frameOf <= reached)
-                selection.insert(&test);
-        }
-    }
-}
-
-}  // namespace
-
-std::string Select(const std::vector<std::string>& names, const Options& options, Selection& selection)
-{
-    for (const std::string& name : names)
+    for (const std::string& name : options.names)
     {
         if (!AddNamed(name, selection))
             return UnknownName(name);
     }
-    if (names.empty())
+    if (options.names.empty())
     {
-        for (const Group* group : Groups())
-            AddNamed(group->name, selection);
+        const bool everything = options.all || station::IsSimulated();
+        ForEachTest(
+            [&](const Group&, const Test& test)
+            {
+                if (test.missing == nullptr && (everything || test.changes == Changes::Nothing))
+                    selection.insert(&test);
+            });
     }
     for (const Test* test : selection)
     {
-        if (std::string problem = test->lacks == nullptr ? "" : test->lacks(options); !problem.empty())
+        if (std::string problem = test->missing == nullptr ? "" : test->missing(options); !problem.empty())
             return problem;
     }
-    AddFrame(selection);
+    for (const std::string& name : options.names)
+    {
+        for (const Test* test : selection)
+        {
+            if (LowerCase(name) == test->name && test->question != nullptr && !options.askOperator)
+                return std::string(test->name) + " is judged by a person: --operator";
+        }
+    }
+    AddFixtures(selection);
     return "";
 }
 

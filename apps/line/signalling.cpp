@@ -1,4 +1,4 @@
-// Test calls with the tester that the phone's aerial is connected to.
+// Test calls with the tester that the phone's antenna is connected to.
 #include "online_mode.h"
 #include "radio_values.h"
 #include "tandekor/procedures.h"
@@ -18,16 +18,17 @@ constexpr uint8_t slot = 3;
 Outcome Gsm(Context& context)
 {
     constexpr uint8_t fullRate = 1;
-    constexpr uint8_t powerLevel = 5;
     constexpr uint8_t loopback = 0;
     uint8_t level = 0;
     uint8_t quality = 0;
-    if (TANDEKOR_Reduced_Signalling_GSM(context.handle, &level, &quality, channelGsm900, bandGsm900, trainingSequence,
-                                        slot, fullRate, powerLevel, loopback, openSession, channelGsm900, bandGsm900,
-                                        timeOutMs, loopback, slot, fullRate, closeSession)
+    const RadioValues& radio = context.options.radio;
+    if (TANDEKOR_Reduced_Signalling_GSM(context.handle, &level, &quality, radio.channelGsm, radio.bandGsm,
+                                        radio.trainingSequence, slot, fullRate, radio.powerLevelGsm, loopback,
+                                        openSession, radio.channelGsm, radio.bandGsm, timeOutMs, loopback, slot,
+                                        fullRate, closeSession)
         == 0)
-        return Failed("no GSM test call on channel %u\nTANDEKOR_Reduced_Signalling_GSM gave 0", channelGsm900);
-    return Passed("channel %u: level %u, quality %u in front of the call", channelGsm900, level, quality);
+        return Failed("TANDEKOR_Reduced_Signalling_GSM", "no GSM test call on channel %u", radio.channelGsm);
+    return Done("channel %u, before the call", radio.channelGsm).Add("level", level).Add("quality", quality);
 }
 
 Outcome Wcdma(Context& context)
@@ -39,14 +40,13 @@ Outcome Wcdma(Context& context)
     constexpr uint8_t stepSize = 1;  // dB
     constexpr uint16_t primaryScrambling = 9;
     constexpr uint16_t channelCode = 9;
+    const uint16_t channel = context.options.radio.channelWcdmaDownlink;
     uint8_t state = 0;
-    if (TANDEKOR_Reduced_Signalling_WCDMA(context.handle, channelWcdmaDownlink, timeOutMs, &state, rmc12Point2,
-                                          maxTxPower, uplinkScrambling, powerControl, stepSize, primaryScrambling,
-                                          channelCode)
+    if (TANDEKOR_Reduced_Signalling_WCDMA(context.handle, channel, timeOutMs, &state, rmc12Point2, maxTxPower,
+                                          uplinkScrambling, powerControl, stepSize, primaryScrambling, channelCode)
         == 0)
-        return Failed("no WCDMA test call on channel %u\nTANDEKOR_Reduced_Signalling_WCDMA gave 0",
-                      channelWcdmaDownlink);
-    return Passed("channel %u: state %u", channelWcdmaDownlink, state);
+        return Failed("TANDEKOR_Reduced_Signalling_WCDMA", "no WCDMA test call on channel %u", channel);
+    return Done("channel %u", channel).Add("state", state);
 }
 
 Outcome Hsdpa(Context& context)
@@ -63,8 +63,8 @@ Outcome Hsdpa(Context& context)
     if (TANDEKOR_Reduced_Signalling_HSDPA(context.handle, everything, radioLink, sizeof codes, codes, rnti, processes,
                                           ownPartition, nullptr, 0, cqiCycle, 1, delta, delta, delta, 1, &state)
         == 0)
-        return Failed("no HSDPA test call\nTANDEKOR_Reduced_Signalling_HSDPA gave 0");
-    return Passed("%zu codes, %u processes: state %u", sizeof codes, processes, state);
+        return Failed("TANDEKOR_Reduced_Signalling_HSDPA", "no HSDPA test call");
+    return Done("%zu codes, %u processes", sizeof codes, processes).Add("state", state);
 }
 
 Outcome Edge(Context& context)
@@ -76,34 +76,36 @@ Outcome Edge(Context& context)
     constexpr uint32_t reserved = 0;
     uint8_t state = 0;
     uint8_t level = 0;
-    if (TANDEKOR_Reduced_Signalling_EDGE(context.handle, openSession, channelGsm900, bandGsm900, timeOutMs,
-                                         trainingSequence, flow, reserved, reserved, 1, slot, 0, secondSlot,
-                                         trainingSequence, uplinkState, gamma, reserved, reserved, reserved, reserved,
-                                         &state, &level)
+    const RadioValues& radio = context.options.radio;
+    if (TANDEKOR_Reduced_Signalling_EDGE(context.handle, openSession, radio.channelGsm, radio.bandGsm, timeOutMs,
+                                         radio.trainingSequence, flow, reserved, reserved, 1, slot, 0, secondSlot,
+                                         radio.trainingSequence, uplinkState, gamma, reserved, reserved, reserved,
+                                         reserved, &state, &level)
         == 0)
-        return Failed("no EDGE test call on channel %u\nTANDEKOR_Reduced_Signalling_EDGE gave 0", channelGsm900);
-    return Passed("channel %u, slot %u: state %u, level %u", channelGsm900, slot, state, level);
+        return Failed("TANDEKOR_Reduced_Signalling_EDGE", "no EDGE test call on channel %u", radio.channelGsm);
+    return Done("channel %u, slot %u", radio.channelGsm, slot).Add("state", state).Add("level", level);
 }
 
 Outcome CallOnline(Context& context)
 {
     uint8_t number[] = {'1', '2', '3', '4', '5', '6'};  // any that the tester takes
     if (TANDEKOR_StartCall(context.handle, sizeof number, number) == 0)
-        return Failed("the call could not be begun, or not be ended\nTANDEKOR_StartCall gave 0");
-    return Passed("begun and ended, %zu digits", sizeof number);
+        return Failed("TANDEKOR_StartCall", "the call could not be begun, or not ended");
+    return Done("begun and ended, %zu digits", sizeof number);
 }
 
 Outcome Call(Context& context) { return RunOnline(context, CallOnline); }
 
 constexpr Test tests[] = {
-    {"gsm-call", "stages of a GSM test call", Gsm},
-    {"wcdma-call", "stages of a WCDMA test call", Wcdma},
-    {"hsdpa-call", "stages of an HSDPA test call", Hsdpa},
-    {"edge-call", "stages of an EDGE test call", Edge},
+    {"gsm-call", "stages of a GSM test call", Gsm, {{"level"}, {"quality"}}, Changes::Radiates},
+    {"wcdma-call", "stages of a WCDMA test call", Wcdma, {{"state"}}, Changes::Radiates},
+    {"hsdpa-call", "stages of an HSDPA test call", Hsdpa, {{"state"}}, Changes::Radiates},
+    {"edge-call", "stages of an EDGE test call", Edge, {{"state"}, {"level"}}, Changes::Radiates},
     {.name = "call",
      .description = "begins and ends a GSM call of the phone online",
      .run = Call,
-     .awaited = "phone to change its mode"},
+     .changes = Changes::Radiates,
+     .waitsFor = "phone to change its mode"},
 };
 
 }  // namespace

@@ -26,8 +26,8 @@ Outcome Imsi(Context& context)
         digits += static_cast<char>('0' + digit);
     }
     if (digits.empty())
-        return Failed("no digits in the IMSI\nTANDEKOR_FTM_SIM_READ_IMSI gave the length %u", stored[0]);
-    return Passed("%s", digits.c_str());
+        return Failed("TANDEKOR_FTM_SIM_READ_IMSI", "no digits in the IMSI (length %u)", stored[0]);
+    return Done("%s", "").Add("digits", digits);
 }
 
 Outcome SimMode(Context& context)
@@ -35,7 +35,7 @@ Outcome SimMode(Context& context)
     uint8_t mode = 0;
     if (TANDEKOR_FTM_SIM_GET_MODE(context.handle, &mode) == 0)
         return NotAnswered("TANDEKOR_FTM_SIM_GET_MODE");
-    return Passed("mode %u", mode);
+    return Done("%s", "").Add("mode", mode);
 }
 
 Outcome KcFile(Context& context)
@@ -51,7 +51,7 @@ Outcome KcFile(Context& context)
                           TANDEKOR_FTM_SIM_READ_KC_FILE(context.handle, again, &status)))
         return NotAnswered(requests.last);
     if (!std::equal(std::begin(file), std::end(file), again))
-        return Failed("the Kc file came back changed");
+        return Failed("", "the Kc file came back changed");
     return Passed("%zu bytes, key number %u", sizeof file, file[8]);
 }
 
@@ -68,7 +68,7 @@ Outcome CardFile(Context& context)
                           TANDEKOR_FTM_MMC_FILE_ACCESS(context.handle, 0, sizeof read, name, read)))
         return NotAnswered(requests.last);
     if (!std::equal(std::begin(written), std::end(written), read))
-        return Failed("the file came back changed");
+        return Failed("", "the file came back changed");
     return Passed("%zu bytes written and read unchanged", sizeof written);
 }
 
@@ -85,18 +85,22 @@ Outcome FactoryByte(Context& context)
     if (again == byte && (access(1, &byte) == 0 || access(0, &again) == 0))
         return NotAnswered(function);
     if (again != byte)
-        return Failed("byte %u was 0x%02X and then 0x%02X\nread by %s", address, byte, again, function);
+        return Failed(function, "byte %u was 0x%02X and then 0x%02X", address, byte, again);
     return Passed("byte %u: 0x%02X", address, byte);
 }
 
 constexpr Test simTests[] = {
-    {"imsi", "number of the subscriber, as the SIM stores it", Imsi},
-    {"sim-mode", "mode of the SIM", SimMode},
+    {"imsi", "number of the subscriber, as the SIM stores it", Imsi, {{"digits", textUnit}}},
+    {"sim-mode", "mode of the SIM", SimMode, {{"mode"}}},
     {"kc-file", "Kc file of the SIM, written as it was read", KcFile},
 };
 
 constexpr Test cardTests[] = {
-    {"card-file", "writes line-test.bin on the memory card, where it stays, and reads it", CardFile},
+    {"card-file",
+     "writes line-test.bin on the memory card, where it stays, and reads it",
+     CardFile,
+     {},
+     Changes::Storage},
     {"factory-byte", "byte 127 of the factory data, written as it was read", FactoryByte},
 };
 

@@ -1,24 +1,25 @@
-// Where the phone stands: a simulated one in this process, or a real one behind the host library.
+// Where the phone stands: a simulated one in this process, or a real one with the host library between.
 #pragma once
 
 #include <cstdint>
 #include <functional>
 #include <string>
 
-#include "test.h"
-
-namespace CLI
-{
-class App;
-}
+#include "options.h"
 
 namespace tandekor::line::station
 {
 
-// The options that only this kind of station has.
-void AddOptions(CLI::App& app);
+bool IsSimulated();
 
-void Prepare(const Options& options);
+// What the station file of this kind of station says where the user's says nothing.
+const char* DefaultStationFile();
+
+// What is wrong with a NAME or NAME:N of --refuse, or an empty text.
+std::string RefusalProblem(const std::string& refusal);
+
+// Returns an empty text, or why the phone cannot be had.
+std::string Prepare(const Options& options);
 
 // What kind of phone it is, for the summary.
 std::string Name(const Options& options);

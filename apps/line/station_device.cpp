@@ -1,19 +1,34 @@
-// A real phone, behind the host library that lies beside the program.
+// A real phone, with the host library that lies beside the program.
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
 
+#include "machine.h"
 #include "station.h"
 
 namespace tandekor::line::station
 {
 
-void AddOptions(CLI::App&) {}
+bool IsSimulated() { return false; }
 
-void Prepare(const Options&) {}
+const char* DefaultStationFile() { return ""; }
 
-std::string Name(const Options& options) { return "phone on COM " + std::to_string(options.port); }
+std::string RefusalProblem(const std::string&) { return "a real phone refuses nothing on demand"; }
+
+// For a host library that simulates its phone; another one does not know the variable.
+std::string Prepare(const Options& options)
+{
+    if (!options.phoneScript.empty())
+        machine::SetVariable("TANDEKOR_PHONE", options.phoneScript);
+    return "";
+}
+
+std::string Name(const Options& options)
+{
+    return "phone on COM " + std::to_string(options.port)
+           + (options.phoneScript.empty() ? "" : ", simulated by " + options.phoneScript);
+}
 
 uint32_t Now()
 {

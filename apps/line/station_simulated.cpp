@@ -1,8 +1,11 @@
-// The simulated phone in its box. Its time is played: waits take none, but count as on a real phone.
-#include <CLI/CLI.hpp>
+// The simulated phone in its box. Its time is simulated: waits take none, but count as on a real phone.
+#include <algorithm>
+#include <charconv>
 
+#include "simulated_station.h"
 #include "simulator/control.h"
 #include "station.h"
+#include "tandekor/simulator.h"
 
 namespace tandekor::line::station
 {
@@ -10,32 +13,73 @@ namespace tandekor::line::station
 namespace
 {
 
-std::string refusedOperation;
+struct Refusal
+{
+    std::string operation;
+    int from = 1;
+    bool valid = false;
+};
+
+Refusal Read(const std::string& text)
+{
+    Refusal refusal;
+    const size_t colon = std::min(text.find(':'), text.size());
+    refusal.operation = text.substr(0, colon);
+    const char* end = text.data() + text.size();
+    if (colon == text.size())
+        refusal.valid = true;
+    else
+    {
+        const auto [rest, error] = std::from_chars(text.data() + colon + 1, end, refusal.from);
+        refusal.valid = error == std::errc() && rest == end && refusal.from > 0;
+    }
+    return refusal;
+}
 
 }  // namespace
 
-void AddOptions(CLI::App& app)
+bool IsSimulated() { return true; }
+
+const char* DefaultStationFile() { return simulatedStation; }
+
+std::string RefusalProblem(const std::string& text)
 {
-    app.add_option("--refuse", refusedOperation,
-                   "Host operation that the simulated phone refuses, to see a failure (QLIB_DIAG_VERNO_F ...)")
-        ->type_name("NAME");
+    const Refusal refusal = Read(text);
+    if (!refusal.valid)
+        return "'" + text + "': the number of the first call that is refused has to be 1 or more";
+    constexpr uint32_t noSuchOperation = UINT32_MAX;
+    if (PHONE_CountCalls(refusal.operation.c_str()) == noSuchOperation)
+        return "the host library has no operation '" + refusal.operation + "'";
+    return "";
 }
 
-void Prepare(const Options& options)
+std::string Prepare(const Options& options)
 {
+    if (!options.phoneScript.empty())
+    {
+        if (std::string problem = simulator::RunScript(options.phoneScript); !problem.empty())
+            return problem;
+    }
     simulator::ThePhone().on = false;
     simulator::ThePhone().nvItems[2824] = simulator::Bytes(16, '7');  // serial number
     simulator::TheBootBox().ports = {options.bootBox};
-    if (!refusedOperation.empty())
-        simulator::RefuseCallsFrom(refusedOperation);
+    for (const std::string& text : options.refusals)
+        simulator::RefuseCallsFrom(Read(text).operation, Read(text).from);
+    return "";
 }
 
-std::string Name(const Options&)
+std::string Name(const Options& options)
 {
-    if (refusedOperation.empty())
-        return "simulated phone";
-    const bool called = simulator::CountCalls(refusedOperation) != 0;
-    return "simulated phone that refuses " + refusedOperation + (called ? "" : ", which was not called");
+    std::string name = "simulated phone";
+    if (!options.phoneScript.empty())
+        name += " of " + options.phoneScript;
+    for (const std::string& text : options.refusals)
+    {
+        const Refusal refusal = Read(text);
+        name += (&text == options.refusals.data() ? " that refuses " : ", ") + text
+                + (simulator::CountCalls(refusal.operation) < refusal.from ? " (not reached)" : "");
+    }
+    return name;
 }
 
 uint32_t Now() { return simulator::TheClock().now; }

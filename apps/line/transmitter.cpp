@@ -1,8 +1,8 @@
 // The transmitter, and the ADC that watches it. Each test that leaves the transmitter on switches it off by the
 // procedure that ends so.
-#include "radio_values.h"
+#include "transmitter.h"
+
 #include "tandekor/procedures.h"
-#include "test.h"
 
 namespace tandekor::line
 {
@@ -18,39 +18,52 @@ constexpr uint16_t paRange = 0;
 constexpr uint8_t cwWaveform = 1;
 constexpr uint16_t pdmAgc = 2;
 constexpr uint16_t pdmMiddle = 256;
+constexpr uint16_t paDac = 500;
 
-Outcome MayStillBeOn(const char* function) { return Failed("the transmitter may still be on\n%s gave 0", function); }
+// Both switch on before they switch off.
+bool GsmOff(const Context& context)
+{
+    const RadioValues& radio = context.options.radio;
+    return TANDEKOR_GSM_PA_OutputPower(context.handle, radio.modeGsm, radio.channelGsm, burstSlot, randomData,
+                                       radio.trainingSequence, bursts, counted, paDac)
+           != 0;
+}
+
+bool WcdmaOff(const Context& context)
+{
+    const RadioValues& radio = context.options.radio;
+    return TANDEKOR_AFC_Deviation(context.handle, radio.modeWcdma, radio.channelWcdmaUplink, paRange, cwWaveform,
+                                  pdmAgc, pdmMiddle)
+           != 0;
+}
 
 Outcome Gsm(Context& context)
 {
-    constexpr uint8_t powerLevel = 5;  // 33 dBm
-    constexpr uint16_t paDac = 500;
-    const bool on = TANDEKOR_Set_TX_PowerOn(context.handle, modeGsm900, channelGsm900, powerLevel, burstSlot,
-                                            randomData, trainingSequence, bursts, counted)
+    const RadioValues& radio = context.options.radio;
+    const bool on = TANDEKOR_Set_TX_PowerOn(context.handle, radio.modeGsm, radio.channelGsm, radio.powerLevelGsm,
+                                            burstSlot, randomData, radio.trainingSequence, bursts, counted)
                     != 0;
-    const bool off = TANDEKOR_GSM_PA_OutputPower(context.handle, modeGsm900, channelGsm900, burstSlot, randomData,
-                                                 trainingSequence, bursts, counted, paDac)
-                     != 0;
-    if (!off)
-        return MayStillBeOn("TANDEKOR_GSM_PA_OutputPower");
+    const bool off = GsmOff(context);
     if (!on)
-        return Failed("no power at level %u\nTANDEKOR_Set_TX_PowerOn gave 0", powerLevel);
-    return Passed("channel %u at level %u, then with PA DAC %u; off again", channelGsm900, powerLevel, paDac);
+        return Failed("TANDEKOR_Set_TX_PowerOn", "no power at level %u", radio.powerLevelGsm);
+    if (!off)
+        return Failed("TANDEKOR_GSM_PA_OutputPower", "no power with PA DAC %u, or not switched off after it", paDac);
+    return Done("channel %u at level %u, then with PA DAC %u; off again", radio.channelGsm, radio.powerLevelGsm, paDac);
 }
 
 Outcome Wcdma(Context& context)
 {
-    const bool on = TANDEKOR_WCDMA_PA_OutputPower(context.handle, modeWcdma, channelWcdmaUplink, paRange, cwWaveform,
-                                                  pdmAgc, pdmMiddle)
+    const RadioValues& radio = context.options.radio;
+    const bool on = TANDEKOR_WCDMA_PA_OutputPower(context.handle, radio.modeWcdma, radio.channelWcdmaUplink, paRange,
+                                                  cwWaveform, pdmAgc, pdmMiddle)
                     != 0;
-    const bool off
-        = TANDEKOR_AFC_Deviation(context.handle, modeWcdma, channelWcdmaUplink, paRange, cwWaveform, pdmAgc, pdmMiddle)
-          != 0;
-    if (!off)
-        return MayStillBeOn("TANDEKOR_AFC_Deviation");
+    const bool off = WcdmaOff(context);
     if (!on)
-        return Failed("no power in PA range %u\nTANDEKOR_WCDMA_PA_OutputPower gave 0", paRange);
-    return Passed("channel %u in PA range %u, PDM %u at %u; off again", channelWcdmaUplink, paRange, pdmAgc, pdmMiddle);
+        return Failed("TANDEKOR_WCDMA_PA_OutputPower", "no power in PA range %u", paRange);
+    if (!off)
+        return Failed("TANDEKOR_AFC_Deviation", "no power with the CW waveform, or not switched off after it");
+    return Done("channel %u in PA range %u, PDM %u at %u; off again", radio.channelWcdmaUplink, paRange, pdmAgc,
+                pdmMiddle);
 }
 
 Outcome Adc(Context& context)
@@ -61,19 +74,29 @@ Outcome Adc(Context& context)
     double second = notMeasured;
     double third = notMeasured;
     if (TANDEKOR_CheckDACValues(context.handle, readings, &first, readings, &third, &second) == 0)
-        return Failed("the ADC cannot be read, or is not known for this phone model\nTANDEKOR_CheckDACValues gave 0");
-    if (third == notMeasured)
-        return Passed("%.1f and %.1f, each of %u readings", first, second, readings);
-    return Passed("%.1f, %.1f and %.1f, each of %u readings", first, second, third, readings);
+        return Failed("TANDEKOR_CheckDACValues", "the ADC cannot be read, or is not known for this phone model");
+    Outcome outcome = Done("averages of %u readings", readings);
+    outcome.Add("first", first).Add("second", second);
+    if (third != notMeasured)
+        outcome.Add("third", third);
+    return outcome;
 }
 
 constexpr Test tests[] = {
-    {"tx-gsm", "GSM at full power and by the PA DAC, then off", Gsm},
-    {"tx-wcdma", "WCDMA with a CW waveform and by the AFC, then off", Wcdma},
-    {"adc-averages", "averages of the ADC channels of this phone model", Adc},
+    {"tx-gsm", "GSM at full power and by the PA DAC, then off", Gsm, {}, Changes::Radiates},
+    {"tx-wcdma", "WCDMA with a CW waveform and by the AFC, then off", Wcdma, {}, Changes::Radiates},
+    {"adc-averages", "averages of the ADC channels of this phone model", Adc, {{"first"}, {"second"}, {"third"}}},
 };
 
 }  // namespace
+
+Outcome TransmitterOff(Context& context)
+{
+    if (!WcdmaOff(context) && !GsmOff(context))
+        return Failed("TANDEKOR_GSM_PA_OutputPower", "the transmitter may still be on");
+    context.transmitterOn = false;
+    return Passed("off");
+}
 
 extern const Group transmitterGroup;
 constinit const Group transmitterGroup{"transmitter", "the transmitter, which is off at the end, and the ADC", tests};

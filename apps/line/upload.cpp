@@ -1,5 +1,6 @@
 // An upload, which the host library has only in its QPST mode.
 #include <atomic>
+#include <filesystem>
 
 #include "tandekor/tandekor.h"
 #include "test.h"
@@ -38,18 +39,28 @@ Outcome Upload(Context& context)
     TANDEKOR_SetLibraryMode(0);
     const int percent = context.percent.exchange(-1);
     if (result == 0)
-        return Failed("the upload of %s broke off at %d %%, status %u\nTANDEKOR_UploadCEFS_File gave 0", file.c_str(),
+        return Failed("TANDEKOR_UploadCEFS_File", "the upload of %s broke off at %d %%, status %u", file.c_str(),
                       percent < 0 ? 0 : percent, told.status);
     if (TANDEKOR_GetLibraryMode() != 0)
-        return Failed("the host library stays in its QPST mode\nTANDEKOR_GetLibraryMode gave 1");
-    return Passed("complete, last status %u, told %d times", told.status, told.reports);
+        return Failed("TANDEKOR_GetLibraryMode", "the host library stays in its QPST mode");
+    return Done("complete, last status %u, told %d times", told.status, told.reports);
+}
+
+std::string MissingImage(const Options& options)
+{
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(options.uploadFile, ignored)
+               ? ""
+               : "upload needs a file system image: --upload FILE";
 }
 
 constexpr Test tests[] = {
     {.name = "upload",
      .description = "uploads a file system image, in the QPST mode",
      .run = Upload,
-     .awaited = "host library to upload"},
+     .changes = Changes::Storage,
+     .waitsFor = "host library to upload",
+     .missing = MissingImage},
 };
 
 }  // namespace

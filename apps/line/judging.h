@@ -1,0 +1,26 @@
+// What decides about a measure.
+#pragma once
+
+#include <string>
+
+#include "test.h"
+
+namespace tandekor::line
+{
+
+// Reads "50..100 %", "..3", "0..", a single number, or for a text what it has to be, alternatives divided by '|'.
+// Returns an empty text, or what is wrong.
+std::string ReadLimit(const std::string& text, const Quantity& quantity, Limit& limit);
+
+// Gives each measure its unit, limit and verdict, and the outcome its verdict. A limit without its measure fails.
+void Judge(const Test& test, const Options& options, Outcome& outcome);
+
+// As in "battery.charge 0 % [50..100] FAIL".
+std::string Shown(const std::string& test, const Measure& measure);
+
+const char* Name(Verdict verdict);
+
+// With bytes that are no printable characters as \xNN; line ends and tabs stay.
+std::string Printable(const std::string& text);
+
+}  // namespace tandekor::line
