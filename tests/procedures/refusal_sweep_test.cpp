@@ -201,7 +201,7 @@ const Procedure procedures[] = {
          return TANDEKOR_Reduced_Signalling_EDGE(h, 1, 2, 3, 4, 5, 6, 0, 0, 7, 8, 9, 10, 11, 12, 13, 0, 0, 0, 0,
                                                  outs.bytes, outs.bytes);
      }},
-    {"FTM_EGPRS_BER_StartCall", [](auto h) { return TANDEKOR_FTM_EGPRS_BER_StartCall(h, 1, 2, 3, 4); }},
+    {"FTM_EGPRS_BER_StartCall", [](auto h) { return FTM_EGPRS_BER_StartCall(h, 1, 2, 3, 4); }},
     {"StartCall", [](auto h) { return TANDEKOR_StartCall(h, 3, outs.bytes); }, GoOnline},
     {"GSM_PA_OutputPower", [](auto h) { return TANDEKOR_GSM_PA_OutputPower(h, 1, 2, 3, 4, 5, 6, 7, 8); }},
     {"Set_TX_PowerOn", [](auto h) { return TANDEKOR_Set_TX_PowerOn(h, 1, 2, 3, 4, 5, 6, 7, 8); }},
@@ -216,7 +216,7 @@ const Procedure procedures[] = {
     {"Virtual_SIM", [](auto h) { return TANDEKOR_Virtual_SIM(h, outs.text, outs.bytes); }},
     {"Virtual_SIM_Forced", [](auto h) { return TANDEKOR_Virtual_SIM(h, outs.text, outs.bytes); },
      GoOnlineWithoutDirectSwitch},
-    {"SimSimulation", TANDEKOR_SimSimulation},
+    {"SimSimulation", SimSimulation},
     {"SpecialSetRtcActualTime", TANDEKOR_SpecialSetRtcActualTime},
     {"NetworkAndChannelPreselection", [](auto h) { return TANDEKOR_NetworkAndChannelPreselection(h, 2, 3, 4); }},
     {"NV_WRITE_NETWORK_SCAN_MODE", [](auto h) { return NV_WRITE_NETWORK_SCAN_MODE(h, 2); }},
