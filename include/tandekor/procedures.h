@@ -2,9 +2,20 @@
  * Multi-step procedures: power, mode and identification of the phone, and the tests and calibrations of a line.
  *
  * A procedure writes each of its steps to the text log: a start line, and a result line that ends in "Completed
- * successfully" or "Failure". The first step that fails ends the procedure with the result 0; its line says why, and
- * nothing that earlier steps did is undone. Nearly every procedure begins with a check that the phone answers and ends
- * with the line "Invalid handle" if it does not.
+ * successfully" or "Failure". The first step that fails ends the procedure with the result 0; its line says why (a few
+ * refusals have no line, where their functions say so), and nothing that earlier steps did is undone. Nearly every
+ * procedure begins with a check that the phone answers and ends with the line "Invalid handle" if it does not.
+ *
+ *     uint32_t version = 0, chip = 0, model = 0;
+ *     TANDEKOR_Start_LOG(phone, "line.log");
+ *     if (TANDEKOR_BootBox_SwitchMobileOn(phone, 4, TANDEKOR_MODE_FTM) != 0)
+ *     {
+ *         if (TANDEKOR_Phone_Model(phone, &version, &chip, &model) == 0)
+ *             ...                                     line.log says which step failed
+ *         TANDEKOR_BootBox_SwitchMobileOff(phone, 4);
+ *     }
+ *
+ * A value that is passed on to the host library or to the phone is not checked here; its numbers and units are theirs.
  */
 #ifndef TANDEKOR_PROCEDURES_H
 #define TANDEKOR_PROCEDURES_H
@@ -19,79 +30,110 @@ extern "C"
     /* --- Log and callback */
 
     /*
-     * Opens the host library's text log in the file sLogFile, which is handed on as it is, and writes the version of
-     * this library to it. The phone need not answer yet. Gives 1 for every known handle: that the file could not be
-     * opened shows by its absence.
+     * Opens the host library's text log and writes the version of this library to it. The phone need not answer yet. Returns
+     * 1 for every known handle: that the file could not be opened shows by its absence.
+     *
+     * [in] sLogFile  name of the file, passed on as it is
      */
-    TANDEKOR_API uint8_t TANDEKOR_Start_LOG(ResourceContext hResourceContext, const char* sLogFile);
-
-    /* Called with the status and the percentage (0 to 100) of an upload; a result is not read. */
-    typedef void (*TandekorCallback)(uint32_t iStatus, uint32_t iPercent);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Start_LOG(ResourceContext hResourceContext, const char* sLogFile);
 
     /*
-     * Sets the function that uploads report their progress to; null sets none. It holds for all connections of the
-     * process until the next call, whatever the handle is.
+     * Called with the status and the percentage (0 to 100) of an upload, on the thread on which the host library reports
+     * its progress, before the upload function returns. It may call the library on the same handle, except to
+     * disconnect it. It has no way of stopping the upload.
      */
-    TANDEKOR_API void TANDEKOR_SetCallback(ResourceContext hResourceContext, TandekorCallback pCallback);
+    typedef void(TANDEKOR_CALL* TandekorCallback)(uint32_t iStatus, uint32_t iPercent);
+
+    /*
+     * Sets the function that uploads report their progress to. It holds for all connections of the process until the next
+     * call, whatever the handle is, and must stay callable as long.
+     *
+     * [in, or null] pCallback  the function; null sets none
+     */
+    TANDEKOR_API void TANDEKOR_CALL TANDEKOR_SetCallback(ResourceContext hResourceContext, TandekorCallback pCallback);
 
     /* --- Mode of the phone: online, or FTM (factory test) */
 
     /*
-     * Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which
-     * takes about 20 seconds and at most about 72. bFTMMode: 1 for FTM, 0 for online; written as it is.
+     * Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which takes
+     * about 20 seconds and at most about 72.
+     *
+     * [in] bFTMMode  TandekorPhoneMode; written as it is
      */
-    TANDEKOR_API uint8_t TANDEKOR_ModeChangeResetMobile(ResourceContext hResourceContext, uint8_t bFTMMode);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_ModeChangeResetMobile(ResourceContext hResourceContext, uint8_t bFTMMode);
 
     /*
      * Write the mode in which the phone starts and send the direct mode command; only if the command did not take is
      * the phone reset as well, and then these functions do not wait for its restart.
      */
-    TANDEKOR_API uint8_t TANDEKOR_ONLINE_TO_FTM(ResourceContext hResourceContext);
-    TANDEKOR_API uint8_t TANDEKOR_FTM_TO_ONLINE(ResourceContext hResourceContext);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_ONLINE_TO_FTM(ResourceContext hResourceContext);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_TO_ONLINE(ResourceContext hResourceContext);
 
     /* --- Power of the phone, by a boot box */
 
     /*
-     * Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode
-     * asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
-     * iBootBoxPort: number of the boot box's serial port. The port is opened by the first call for this process alone
-     * and stays open until the connection ends; another number than the open one is refused. On Windows the port is
-     * COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as /dev/com5 -> ttyUSB0
-     * gives a USB adapter a number), else /dev/ttyS<number - 1>.
-     * bFTMMode: 1 for FTM, 0 for online; any other value leaves the mode as it is.
+     * Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode asked
+     * for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+     *
+     * [in] iBootBoxPort  number of the boot box's serial port. The port is opened by the first call for this process alone and
+     *                    stays open until the connection ends; another number than the open one is refused. On Windows the port
+     *                    is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as /dev/com5
+     *                    -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process holds the
+     *                    port, its lines may be raised before it is refused
+     * [in] bFTMMode      TandekorPhoneMode; any other value than its first two leaves the mode unchanged
      */
-    TANDEKOR_API uint8_t TANDEKOR_BootBox_SwitchMobileOn(ResourceContext hResourceContext, uint16_t iBootBoxPort,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOn(ResourceContext hResourceContext, uint16_t iBootBoxPort,
                                                          uint8_t bFTMMode);
 
     /*
-     * Takes the phone offline, switches it off by the boot box and by command, and waits up to 10 seconds until it is
-     * silent. iBootBoxPort: the port with which the phone was switched on in this connection; another number fails
-     * after the phone has gone offline, and a phone that was switched on by other means cannot be switched off here.
+     * Takes the phone offline, switches it off by the boot box and by command, and waits up to 10 seconds until it is silent.
+     *
+     * [in] iBootBoxPort  the port with which the phone was switched on in this connection; another number fails after the phone
+     *                    has gone offline, and a phone that was switched on by other means cannot be switched off here
      */
-    TANDEKOR_API uint8_t TANDEKOR_BootBox_SwitchMobileOff(ResourceContext hResourceContext, uint16_t iBootBoxPort);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOff(ResourceContext hResourceContext, uint16_t iBootBoxPort);
 
     /* --- Identification */
 
     /*
-     * Reads which phone this is. Out: *piVerNumber the hardware variant (16 bits count), *piMSMModel the chip family
-     * (1 to 4), *piPhoneModel the phone model that TANDEKOR_GetPhoneModel gives for both. A phone that is not
-     * recognised is no failure: chip family or model are then 0. After a failure, values that were not reached keep
-     * what they held. There is no check that the phone answers before the first question.
+     * Reads which phone this is. A phone that is not recognised is no failure: chip family or model are then 0. After a
+     * failure, values that were not reached keep what they held. There is no check that the phone answers before the first
+     * question.
+     *
+     * [out] piVerNumber   hardware variant; 16 bits count
+     * [out] piMSMModel    chip family, 1 to 4
+     * [out] piPhoneModel  TandekorPhoneModel
      */
-    TANDEKOR_API uint8_t TANDEKOR_Phone_Model(ResourceContext hResourceContext, uint32_t* piVerNumber,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Phone_Model(ResourceContext hResourceContext, uint32_t* piVerNumber,
                                               uint32_t* piMSMModel, uint32_t* piPhoneModel);
 
-    /* The phone model of a hardware variant on a chip family, 0 for a pair that is not known. No phone is asked. */
-    TANDEKOR_API uint8_t TANDEKOR_GetPhoneModel(ResourceContext hResourceContext, uint32_t iVerNumber,
+    /*
+     * The phone model of a hardware variant on a chip family. No phone is asked.
+     *
+     * [in]  iVerNumber    hardware variant
+     * [in]  iMSMModel     chip family, 1 to 4
+     * [out] piPhoneModel  TandekorPhoneModel, 0 for a pair that is not known
+     */
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_GetPhoneModel(ResourceContext hResourceContext, uint32_t iVerNumber,
                                                 uint32_t iMSMModel, uint32_t* piPhoneModel);
 
     /*
-     * Reads the identity of the phone's software. All arguments are out. The five texts sCompileDate to sVersionDir:
-     * at least 32 bytes each; cleared first, and cut to 11 characters (the dates) or 8 (the times and sVersionDir).
-     * pVernoField6 to pVernoField12 go to the host library as they are. sBuildId and sBuildModel: at least 512 bytes.
-     * Nothing is compared: the caller judges the values.
+     * Reads the identity of the phone's software. Nothing is compared: the caller judges the values. The five version texts
+     * are cleared first, and cut to 11 characters (the dates) or 8 (the times and sVersionDir).
+     *
+     * [out] sCompileDate[TANDEKOR_VERSION_FIELD_SIZE]  date of the build
+     * [out] sCompileTime[TANDEKOR_VERSION_FIELD_SIZE]  its time
+     * [out] sReleaseDate[TANDEKOR_VERSION_FIELD_SIZE]  date of the release
+     * [out] sReleaseTime[TANDEKOR_VERSION_FIELD_SIZE]  its time
+     * [out] sVersionDir[TANDEKOR_VERSION_FIELD_SIZE]   directory of the version
+     * [out] pVernoField6[TANDEKOR_HOST_VALUE_SIZE], pVernoField7[TANDEKOR_HOST_VALUE_SIZE], pVernoField8[TANDEKOR_HOST_VALUE_SIZE], pVernoField9[TANDEKOR_HOST_VALUE_SIZE]  as the host library has them
+     * [out] pVernoField10[TANDEKOR_HOST_VALUE_SIZE], pVernoField11[TANDEKOR_HOST_VALUE_SIZE], pVernoField12[TANDEKOR_HOST_VALUE_SIZE]  as the host library has them
+     * [out] iMSMHardwareVersion  hardware version of the chip
+     * [out] iBuildMobModel       model number of the build
+     * [out] sBuildId[TANDEKOR_BUILD_TEXT_SIZE]     text of the build
+     * [out] sBuildModel[TANDEKOR_BUILD_TEXT_SIZE]  text of the model
      */
-    TANDEKOR_API uint8_t TANDEKOR_CheckSWBuild(ResourceContext hResourceContext, char* sCompileDate, char* sCompileTime,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_CheckSWBuild(ResourceContext hResourceContext, char* sCompileDate, char* sCompileTime,
                                                char* sReleaseDate, char* sReleaseTime, char* sVersionDir,
                                                void* pVernoField6, void* pVernoField7, void* pVernoField8,
                                                void* pVernoField9, void* pVernoField10, void* pVernoField11,
@@ -101,52 +143,87 @@ extern "C"
     /* --- Pins and cameras that depend on the phone model. Each asks for the model first. */
 
     /*
-     * Switches the light of a keypad row by its pins: on the models 52 to 55 the rows 1 to 6, and 7 for all; on model 3
-     * row 7 for the inside keypad and 5 for the outside one, whose drive level is 15 times bOnOff, cut to a byte. A
-     * refusal on model 3 goes to standard output.
+     * Switches the light of a keypad row by its pins. A refusal on model 3 goes to standard output, and row 5 of model 3
+     * writes no line.
+     *
+     * [in] iRowNumber  on the models 52 to 55 the rows 1 to 6, and 7 for all; on model 3 row 7 for the inside keypad and 5 for
+     *                  the outside one
+     * [in] bOnOff      1 on, 0 off. The outside keypad's drive level, 0 to 15, is 15 times this value cut to a byte
      */
-    TANDEKOR_API uint8_t TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, uint16_t iRowNumber,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, uint16_t iRowNumber,
                                                              uint8_t bOnOff);
 
     /*
-     * The level of the flip's pin on model 3. *pcFlipState: out, the character '0' or '1'. bSkipModelRead: 0; any other
-     * value leaves the model unknown, and the call fails as on another model, which is said on standard output.
+     * The level of the flip's pin on model 3.
+     *
+     * [out] pcFlipState     the character '0' or '1'
+     * [in]  bSkipModelRead  0; any other value leaves the model unknown, and the call fails as on another model, which is said
+     *                       on standard output
      */
-    TANDEKOR_API uint8_t TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState,
                                                uint8_t bSkipModelRead);
 
-    /* Chooses camera 0 or 1 on the models 52 to 55; on 54 the two are exchanged. */
-    TANDEKOR_API uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_t iCameraNum);
+    /*
+     * Chooses a camera on the models 52 to 55; on 54 the two are exchanged.
+     *
+     * [in] iCameraNum  0 or 1
+     */
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_t iCameraNum);
 
     /*
-     * Starts camera 0 or 1, reads its identification over I2C and stops it. *piCamId: out, the identification in the
-     * low 8 bits; written only if it was read.
+     * Starts a camera, reads its identification over I2C and stops it.
+     *
+     * [in]  iCamNum  0 or 1
+     * [out] piCamId  the identification in the low 8 bits; written only if it was read
      */
-    TANDEKOR_API uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum,
                                                       uint16_t* piCamId);
 
     /* --- Receiver. The phone is in FTM mode. The library computes nothing: the caller works out the corrections. */
 
     /*
-     * One measurement of the GSM receiver. cBin3: out, 128 bytes, the receive offsets stored in the phone. eNewMode,
-     * iChannel, iSlotNum, iRxFunction, iLNArange: mode, channel, burst slot, receive function and LNA range. piRSSI:
-     * out, as the host library has it.
+     * One measurement of the GSM receiver.
+     *
+     * [out] cBin3[TANDEKOR_GSM_OFFSETS_SIZE]  the receive offsets stored in the phone
+     * [in]  eNewMode     mode of the radio, the host library's number
+     * [in]  iChannel     channel (ARFCN)
+     * [in]  iSlotNum     slot of the burst, 0 to 7
+     * [in]  iRxFunction  receive function, the host library's number
+     * [in]  iLNArange    LNA range, the host library's number
+     * [out] piRSSI[TANDEKOR_HOST_VALUE_SIZE]  received level, as the host library has it
      */
-    TANDEKOR_API uint8_t TANDEKOR_RX_GSM_Adjust(ResourceContext hResourceContext, uint8_t* cBin3, uint16_t eNewMode,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_RX_GSM_Adjust(ResourceContext hResourceContext, uint8_t* cBin3, uint16_t eNewMode,
                                                 uint16_t iChannel, uint8_t iSlotNum, int16_t iRxFunction,
                                                 uint8_t iLNArange, void* piRSSI);
 
     /*
-     * One measurement of the WCDMA receiver, with what the caller stores on the way. In the order of the steps:
-     * iLNArange: LNA range. iDvgaExpectedRX_AGC in, piDVGAoffsetValue out (as the host library has it): DVGA offset.
-     * iWriteItemID, pWriteItemData, iWriteLength (bytes) in, piWriteStatus out: a direct NV write. eVgaNvBand, iOffset,
-     * piVsFreq (16 bytes, or null to leave it): VGA gain to store. eFallNvBand in, piFall1 to piFall3 out (2 bytes
-     * each, low byte first): LNA fall thresholds. iReadItemID, iReadLength (bytes) in, pReadItemData, piReadStatus out:
-     * a direct NV read. eRiseNvBand, piRise1 to piRise3: LNA rise thresholds. iLNAindex, iLnaExpectedRX_AGC in,
-     * piLNAoffsetValue out: LNA offset. Bands are 4, 5 and 6; another fails. The status of the direct operations (0 is
-     * success) is for the caller: it does not end the procedure.
+     * One measurement of the WCDMA receiver, with what the caller stores on the way; the arguments stand in the order of the
+     * steps. An unknown band fails at its step. The status of the two direct operations is for the caller: it does not end the
+     * procedure.
+     *
+     * [in]  iLNArange            LNA range, the host library's number
+     * [in]  iDvgaExpectedRX_AGC  expected AGC value for the DVGA offset, in the host library's unit
+     * [out] piDVGAoffsetValue[TANDEKOR_HOST_VALUE_SIZE]  DVGA offset, as the host library has it
+     * [in]  iWriteItemID         NV item that is written directly
+     * [in]  pWriteItemData[iWriteLength]  its bytes
+     * [in]  iWriteLength         how many there are
+     * [out] piWriteStatus        status of the write, 0 for success
+     * [in]  eVgaNvBand           TandekorWcdmaBand of the VGA gain
+     * [in]  iOffset              VGA gain offset to store
+     * [in, or null] piVsFreq[16] VGA gain by frequency to store; null leaves it unchanged
+     * [in]  eFallNvBand          TandekorWcdmaBand of the LNA fall thresholds
+     * [out] piFall1[2], piFall2[2], piFall3[2]  the thresholds, low byte first
+     * [in]  iReadItemID          NV item that is read directly
+     * [out] pReadItemData[iReadLength]  its bytes
+     * [in]  iReadLength          how many to read
+     * [out] piReadStatus         status of the read, 0 for success
+     * [in]  eRiseNvBand          TandekorWcdmaBand of the LNA rise thresholds
+     * [out] piRise1[2], piRise2[2], piRise3[2]  the thresholds, low byte first
+     * [in]  iLNAindex            LNA stage
+     * [in]  iLnaExpectedRX_AGC   expected AGC value for the LNA offset, in the host library's unit
+     * [out] piLNAoffsetValue     LNA offset
      */
-    TANDEKOR_API uint8_t TANDEKOR_RX_WCDMA_Adjust(
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_RX_WCDMA_Adjust(
         ResourceContext hResourceContext, uint8_t iLNArange, int16_t iDvgaExpectedRX_AGC, void* piDVGAoffsetValue,
         uint16_t iWriteItemID, uint8_t* pWriteItemData, int32_t iWriteLength, uint16_t* piWriteStatus,
         uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1,
@@ -155,13 +232,22 @@ extern "C"
         uint16_t iLNAindex, int16_t iLnaExpectedRX_AGC, int16_t* piLNAoffsetValue);
 
     /*
-     * Stores a receiver calibration in one batch of NV writes. bStartBatchMode: given to the host library; the batch is
-     * flushed whatever it is. Gsm...Range1 to 4: gain range tables of 16 bytes (900, 850) or 32 bytes (1900, 1800),
-     * each may be null to be left alone. eNvBand (4, 5 or 6), iOffset1 to 3, piVsFreq1 to 3 (16 bytes or null): LNA
-     * offsets of a WCDMA band with their tables. eVgaNvBand (4, 5 or 6), iOffset, piVsFreq (16 bytes or null): VGA
-     * gain. After a failure the writes so far stay in the host library's queue.
+     * Stores a receiver calibration in one batch of NV writes. After a failure the writes so far stay in the host library's
+     * queue. Every table may be null to be left unchanged; its content is the caller's and is not looked at.
+     *
+     * [in] bStartBatchMode  passed to the host library; the batch is flushed whatever it is
+     * [in, or null] Gsm900Range1[16], Gsm900Range2[16], Gsm900Range3[16], Gsm900Range4[16]  gain ranges of GSM 900
+     * [in, or null] Gsm1900Range1[32], Gsm1900Range2[32], Gsm1900Range3[32], Gsm1900Range4[32]  gain ranges of GSM 1900
+     * [in, or null] Gsm1800Range1[32], Gsm1800Range2[32], Gsm1800Range3[32], Gsm1800Range4[32]  gain ranges of GSM 1800
+     * [in, or null] Gsm850Range1[16], Gsm850Range2[16], Gsm850Range3[16], Gsm850Range4[16]  gain ranges of GSM 850
+     * [in] eNvBand     TandekorWcdmaBand of the LNA offsets
+     * [in] iOffset1, iOffset2, iOffset3  LNA offsets
+     * [in, or null] piVsFreq1[16], piVsFreq2[16], piVsFreq3[16]  LNA offsets by frequency
+     * [in] eVgaNvBand  TandekorWcdmaBand of the VGA gain
+     * [in] iOffset     VGA gain offset
+     * [in, or null] piVsFreq[16]  VGA gain by frequency
      */
-    TANDEKOR_API uint8_t TANDEKOR_Write_RX_Adjustment_Values(
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Write_RX_Adjustment_Values(
         ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
         uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
         uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
@@ -173,37 +259,67 @@ extern "C"
     /* --- Transmitter. The phone answers FTM requests. A procedure that fails leaves the transmitter as it is then. */
 
     /*
-     * GSM burst on a mode and channel with a PA DAC input; the transmitter is off at the end. iDataSource, iTSCindex,
-     * iNumBursts: data source, training sequence and number of bursts; bIsInfiniteDuration: bursts without end.
+     * GSM burst on a mode and channel with a PA DAC input; the transmitter is off at the end.
+     *
+     * [in] eNewMode             mode of the radio, the host library's number
+     * [in] iChannel             channel (ARFCN)
+     * [in] iSlotNum             slot of the burst, 0 to 7
+     * [in] iDataSource          what is sent, the host library's number
+     * [in] iTSCindex            training sequence, 0 to 7
+     * [in] iNumBursts           number of bursts
+     * [in] bIsInfiniteDuration  bursts without end
+     * [in] iDACinput            input of the power amplifier's DAC
      */
-    TANDEKOR_API uint8_t TANDEKOR_GSM_PA_OutputPower(ResourceContext hResourceContext, uint16_t eNewMode,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_GSM_PA_OutputPower(ResourceContext hResourceContext, uint16_t eNewMode,
                                                      uint16_t iChannel, uint8_t iSlotNum, int16_t iDataSource,
                                                      uint8_t iTSCindex, uint32_t iNumBursts,
                                                      uint8_t bIsInfiniteDuration, uint16_t iDACinput);
 
-    /* GSM burst on a mode and channel at a power level; the transmitter is on at the end. */
-    TANDEKOR_API uint8_t TANDEKOR_Set_TX_PowerOn(ResourceContext hResourceContext, uint16_t eNewMode, uint16_t iChannel,
+    /*
+     * GSM burst on a mode and channel at a power level; the transmitter is on at the end.
+     *
+     * [in] eNewMode             mode of the radio, the host library's number
+     * [in] iChannel             channel (ARFCN)
+     * [in] iPowerLevelID        power level, the host library's number
+     * [in] iSlotNum             slot of the burst, 0 to 7
+     * [in] iDataSource          what is sent, the host library's number
+     * [in] iTSCindex            training sequence, 0 to 7
+     * [in] iNumBursts           number of bursts
+     * [in] bIsInfiniteDuration  bursts without end
+     */
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Set_TX_PowerOn(ResourceContext hResourceContext, uint16_t eNewMode, uint16_t iChannel,
                                                  uint8_t iPowerLevelID, uint8_t iSlotNum, int16_t iDataSource,
                                                  uint8_t iTSCindex, uint32_t iNumBursts, uint8_t bIsInfiniteDuration);
 
     /*
-     * WCDMA transmission on a mode and channel with PA range, CW waveform and PDM value; the transmitter is on at the
-     * end of the first and off at the end of the second.
+     * WCDMA transmission on a mode and channel; the transmitter is on at the end of the first and off at the end of the
+     * second.
+     *
+     * [in] eNewMode   mode of the radio, the host library's number
+     * [in] iChannel   channel (UARFCN)
+     * [in] iPArange   range of the power amplifier, the host library's number
+     * [in] bSelectCW  1 for an unmodulated carrier, 0 for the modulated one
+     * [in] iPDMtype   which PDM, the host library's number
+     * [in] iPDMvalue  its value
      */
-    TANDEKOR_API uint8_t TANDEKOR_WCDMA_PA_OutputPower(ResourceContext hResourceContext, uint16_t eNewMode,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_WCDMA_PA_OutputPower(ResourceContext hResourceContext, uint16_t eNewMode,
                                                        uint16_t iChannel, uint16_t iPArange, uint8_t bSelectCW,
                                                        uint16_t iPDMtype, uint16_t iPDMvalue);
-    TANDEKOR_API uint8_t TANDEKOR_AFC_Deviation(ResourceContext hResourceContext, uint16_t eNewMode, uint16_t iChannel,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AFC_Deviation(ResourceContext hResourceContext, uint16_t eNewMode, uint16_t iChannel,
                                                 uint16_t iPArange, uint8_t bSelectCW, uint16_t iPDMtype,
                                                 uint16_t iPDMvalue);
 
     /*
-     * Averages of ADC readings, by the phone model: the first value over iAverageCount readings, the second and third
-     * over iSecondAverageCount. Mind that the third value's pointer stands in front of the second's. 255.0 is a value
-     * that was not measured. iAverageCount 0 gives 0 with a first value of 0.0; iSecondAverageCount 0 gives 0 with the
-     * first value measured and the others 255.0. A model whose ADC is not known gives 0 with nothing written.
+     * Averages of ADC readings, by the phone model. 255.0 is a value that was not measured. A model whose ADC is not known
+     * returns 0 with nothing written and no line of its own. A failure leaves the values that it did not reach unchanged.
+     *
+     * [in]  iAverageCount        readings for the first value; 0 returns 0 with a first value of 0.0
+     * [out] pdFirstValue         average of the first ADC channel
+     * [in]  iSecondAverageCount  readings for the others; 0 returns 0 with the first value measured and the others 255.0
+     * [out] pdThirdValue         third channel; mind that its pointer stands before the second's
+     * [out] pdSecondValue        second channel
      */
-    TANDEKOR_API uint8_t TANDEKOR_CheckDACValues(ResourceContext hResourceContext, uint16_t iAverageCount,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_CheckDACValues(ResourceContext hResourceContext, uint16_t iAverageCount,
                                                  double* pdFirstValue, uint16_t iSecondAverageCount,
                                                  double* pdThirdValue, double* pdSecondValue);
 
@@ -214,7 +330,7 @@ extern "C"
      * (bInitSession 1 opens the session; iBcchChannel, iBcchBand, iBCCH_TimeOut_ms), its traffic channel, and its end
      * (bCloseControl other than 0 closes the session).
      */
-    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_GSM(ResourceContext hResourceContext, uint8_t* piDED_RPtRxLev_Full,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_GSM(ResourceContext hResourceContext, uint8_t* piDED_RPtRxLev_Full,
                                                          uint8_t* piDED_RPtRxQual_Full, uint16_t iChannel,
                                                          uint8_t iBand, uint8_t iTSC, uint8_t iSlot, uint8_t iMode,
                                                          uint8_t iPowerLevel, uint8_t iLoopbackType,
@@ -224,7 +340,7 @@ extern "C"
                                                          uint8_t bCloseControl);
 
     /* WCDMA: pilot of a channel, session, its state (out, one byte), and a channel set up by the last seven values. */
-    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_WCDMA(ResourceContext hResourceContext, uint16_t iChannel,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_WCDMA(ResourceContext hResourceContext, uint16_t iChannel,
                                                            uint32_t iTimeOut_ms, uint8_t* pWCDMA_BER_State,
                                                            uint8_t iRMC_Type, uint8_t iUL_MaxTxPwr,
                                                            uint32_t iUL_DPCH_ScrCode, uint8_t iUL_PCA,
@@ -235,7 +351,7 @@ extern "C"
      * HSDPA: session, configuration of each channel, state (out, one byte). aiCodes: iNumCodes bytes.
      * aiMemPartitionInfo: as the host library has it, at least one byte for each HARQ process, or null.
      */
-    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_HSDPA(
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_HSDPA(
         ResourceContext hResourceContext, uint8_t iReconfigBitmask, uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes,
         uint8_t* aiCodes, uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
         void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle, uint8_t iCQI_RepetitionFactor,
@@ -246,7 +362,7 @@ extern "C"
      * EDGE: call (bInitSession 1 opens the session), downlink and uplink on one pair of slots, loopback, state and
      * receive level (out, one byte each). The six reserved words are not read.
      */
-    TANDEKOR_API uint8_t TANDEKOR_Reduced_Signalling_EDGE(
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_EDGE(
         ResourceContext hResourceContext, uint8_t bInitSession, uint16_t iChannel, uint8_t iBand,
         uint32_t iBCCH_TimeOut_ms, uint8_t iDL_TSC, uint8_t iDL_TFI, uint32_t iReserved7, uint32_t iReserved8,
         uint8_t bFirstSlotActive, uint8_t iFirstSlotNum, uint8_t bSecondSlotActive, uint8_t iSecondSlotNum,
@@ -254,7 +370,7 @@ extern "C"
         uint32_t iReserved19, uint8_t* pEGPRS_BER_State, uint8_t* piRxLev_average);
 
     /* Originates a GSM call on the phone's normal call stack and ends it at once. aiIMSI: iNumDigits bytes. */
-    TANDEKOR_API uint8_t TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits, uint8_t* aiIMSI);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits, uint8_t* aiIMSI);
 
     /* --- Network and SIM */
 
@@ -264,34 +380,34 @@ extern "C"
      * the log. piSPC_Result: out, not looked at. A failed clock is logged and passed over. The log is muted while the
      * phone restarts, and never left muted.
      */
-    TANDEKOR_API uint8_t TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result);
 
     /* Sets the phone's clock to Coordinated Universal Time. The host library's time mode is given as 0. */
-    TANDEKOR_API uint8_t TANDEKOR_SpecialSetRtcActualTime(ResourceContext hResourceContext);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialSetRtcActualTime(ResourceContext hResourceContext);
 
     /*
      * Stores which network the phone looks for (eNetwMode) and its last good channel (eChannelMode, uiChannel, which
      * the modes 0 and 5 ignore). The modes 0, 2, 3, 4 and 5 are known; another fails, after the items in front of it
      * were written.
      */
-    TANDEKOR_API uint8_t TANDEKOR_NetworkAndChannelPreselection(ResourceContext hResourceContext, uint8_t eNetwMode,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NetworkAndChannelPreselection(ResourceContext hResourceContext, uint8_t eNetwMode,
                                                                 uint8_t eChannelMode, uint16_t uiChannel);
 
     /* Roaming list and automatic answer: 1 is on, any other value off. */
-    TANDEKOR_API uint8_t TANDEKOR_NV_SetRoamingListStatus(ResourceContext hResourceContext, uint8_t bRoamingListOn);
-    TANDEKOR_API uint8_t TANDEKOR_NVSetAutoAnswerStatus(ResourceContext hResourceContext, uint8_t bAutoAnswerOn);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NV_SetRoamingListStatus(ResourceContext hResourceContext, uint8_t bRoamingListOn);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NVSetAutoAnswerStatus(ResourceContext hResourceContext, uint8_t bAutoAnswerOn);
 
     /* --- Audio */
 
     /* Sets the audio path with the microphone's bias; the audio device 15 needs a request of its own. */
-    TANDEKOR_API uint8_t TANDEKOR_MicrophoneBiasVoltages(ResourceContext hResourceContext, uint16_t iAudioDevice);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_MicrophoneBiasVoltages(ResourceContext hResourceContext, uint16_t iAudioDevice);
 
     /* Sets the audio path and switches the loopback of the microphone. */
-    TANDEKOR_API uint8_t TANDEKOR_AudioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AudioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
                                             uint8_t bLoopbackOn);
 
     /* Sets the audio path and volume, starts a tone of two frequencies, and stops it at once. */
-    TANDEKOR_API uint8_t TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDevice, uint8_t iVolume,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDevice, uint8_t iVolume,
                                               uint16_t iHiFreq, uint16_t iLoFreq);
 
     /*
@@ -300,47 +416,47 @@ extern "C"
      * the codec. iReservedWord is not read. After a failed fetch the capture goes on. The log shows pBuffer and
      * pItemData as text, up to their first NUL and at most all of them.
      */
-    TANDEKOR_API uint8_t TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers,
                                                  uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer,
                                                  uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
                                                  uint32_t iReservedWord, int16_t iCodecTxGainAdjust);
 
     /* Clears bit 0 and sets the bits 1 to 3 of the register 0x84001308. Not checked, not logged; fails only if the
      * register cannot be read. */
-    TANDEKOR_API uint8_t TANDEKOR_DIAG_DISABLE_48KHz(ResourceContext hResourceContext);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_DIAG_DISABLE_48KHz(ResourceContext hResourceContext);
 
     /* --- Keypad and display */
 
     /* Loads one of the key maps 1 to 11 into the host library, whose map is emptied first, also for another number. */
-    TANDEKOR_API uint8_t TANDEKOR_SpecialSetKeypadMapping(ResourceContext hResourceContext, uint8_t iMappingID);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialSetKeypadMapping(ResourceContext hResourceContext, uint8_t iMappingID);
 
     /*
      * Empties the queue of key events and reads its size and the next event (out: key, and whether it went down or up,
      * as the host library has them). There is no wait for a key.
      */
-    TANDEKOR_API uint8_t TANDEKOR_TestKeypad(ResourceContext hResourceContext, uint16_t* piKeypressQueueSize,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestKeypad(ResourceContext hResourceContext, uint16_t* piKeypressQueueSize,
                                              uint16_t* piKeyPressID, uint8_t* piKeyPressEvent);
 
     /* Chooses a display by its number on the models 3, 32 to 36 and 40; other models have display 0 only. */
-    TANDEKOR_API uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t uiDsplNum);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t uiDsplNum);
 
     /* Choose a display and show an image file on it. sFileName: a buffer of 128 bytes, all of which are sent. */
-    TANDEKOR_API uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName,
                                                           uint8_t uiDsplNum);
-    TANDEKOR_API uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName,
                                                                uint8_t uiDsplNum);
 
     /* --- Bluetooth */
 
     /* Continuous wave on a channel of the module. */
-    TANDEKOR_API uint8_t TANDEKOR_SetCWPowerBluetooth(ResourceContext hResourceContext, uint8_t iChannel);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SetCWPowerBluetooth(ResourceContext hResourceContext, uint8_t iChannel);
 
     /* Starts the module with the phone's stored address. szAddr: out, 13 bytes, that address as a text with a NUL. */
-    TANDEKOR_API uint8_t TANDEKOR_BluetoothTestConnect(ResourceContext hResourceContext, char* szAddr);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BluetoothTestConnect(ResourceContext hResourceContext, char* szAddr);
 
     /* Identification of the module. pModuleVersion: out, as the host library has it; the others as of
      * TANDEKOR_FTM_GET_BT_PARAM. */
-    TANDEKOR_API uint8_t TANDEKOR_Bluetooth_HW_ID(ResourceContext hResourceContext, void* pModuleVersion,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Bluetooth_HW_ID(ResourceContext hResourceContext, void* pModuleVersion,
                                                   uint16_t* piBtStatus, uint8_t* piBtParam1, uint8_t* piBtParam2,
                                                   uint8_t* piBtParam3);
 
@@ -352,7 +468,7 @@ extern "C"
      * in the units of the phone's charger (no unit is stated; steps of 25 and 10). After low power mode 3 the phone has
      * to be reset, which the log says, and the further steps are tried all the same.
      */
-    TANDEKOR_API uint8_t TANDEKOR_Charging_Test(ResourceContext hResourceContext, uint8_t iLowPowerMode,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Charging_Test(ResourceContext hResourceContext, uint8_t iLowPowerMode,
                                                 uint8_t iChargerSwitchCommand7, uint8_t eChgTransistor, uint8_t bState,
                                                 uint8_t iChargerSwitchCommand3, uint32_t iVoltage, uint32_t iCurrent,
                                                 uint8_t eChgTransistorRead, uint8_t* pbState);
@@ -362,11 +478,11 @@ extern "C"
      * also the supply mode (iSupplyMode 1 or 2 sets its bit, any other value clears it) and the accessory supply
      * bOnOff; on 22 to 25 the accessory supply; on 52 to 55 neither. Any other model fails without a line in the log.
      */
-    TANDEKOR_API uint8_t TANDEKOR_SupplyVoltageTest(ResourceContext hResourceContext, uint8_t iCameraNum,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SupplyVoltageTest(ResourceContext hResourceContext, uint8_t iCameraNum,
                                                     uint8_t iLevel, uint8_t iSupplyMode, uint8_t bOnOff);
 
     /* Accessory supply on the models 12 to 15, 22 to 25, 32 to 36 and 40; any other fails without a line in the log. */
-    TANDEKOR_API uint8_t TANDEKOR_SpecialSwitchAccSupplyVoltage(ResourceContext hResourceContext, uint8_t bOnOff);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialSwitchAccSupplyVoltage(ResourceContext hResourceContext, uint8_t bOnOff);
 
     /* --- Identity and storage */
 
@@ -374,10 +490,10 @@ extern "C"
      * Reads the IMEI. sImei: out, 16 bytes, 15 digits and a NUL; empty if the phone refuses the item, and untouched if
      * the exchange fails.
      */
-    TANDEKOR_API uint8_t TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei);
 
     /* Writes the IMEI and reads it back. sImei: 15 characters; of each the low four bits count. */
-    TANDEKOR_API uint8_t TANDEKOR_NV_WRITE_IMEI(ResourceContext hResourceContext, const char* sImei);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NV_WRITE_IMEI(ResourceContext hResourceContext, const char* sImei);
 
     /*
      * Freezes the phone. THIS CANNOT BE UNDONE. Compares IMEI (9 bytes), Bluetooth address (6 bytes) and serial number
@@ -386,15 +502,15 @@ extern "C"
      * the caller's value. On success the result is the host library's byte of the last command. The steps are logged in
      * words of their own; nothing of the key is.
      */
-    TANDEKOR_API uint8_t TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8_t* pExpectedImei,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8_t* pExpectedImei,
                                                     const uint8_t* pExpectedBtAddress, const uint8_t* pExpectedSerial,
                                                     const uint8_t* pPublicKey);
 
     /* The identification of the flash: the sixth of the host library's values times 256, plus the seventh. */
-    TANDEKOR_API uint8_t TANDEKOR_FlashTest(ResourceContext hResourceContext, uint32_t* piFlashId);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FlashTest(ResourceContext hResourceContext, uint32_t* piFlashId);
 
     /* Writes 16 random bytes to the file \Test.bin on the memory card and reads them back. */
-    TANDEKOR_API uint8_t TANDEKOR_SpecialMmcTest(ResourceContext hResourceContext);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialMmcTest(ResourceContext hResourceContext);
 
     /* --- FM radio, tracking byte, uploads */
 
@@ -402,7 +518,7 @@ extern "C"
      * Sets the audio path, reads the radio chip's identifier, tunes to a channel and reads the radio's information
      * twice: *pcFmValue ends as that of TANDEKOR_SpecialGetFmRadioInfo for 2.
      */
-    TANDEKOR_API uint8_t TANDEKOR_FM_RadioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FM_RadioTest(ResourceContext hResourceContext, uint16_t iAudioDevice,
                                                uint16_t* iChip_Id, uint16_t iChannel, uint16_t* piStatusWord,
                                                uint8_t* pcFmValue);
 
@@ -410,11 +526,11 @@ extern "C"
      * Information of the radio chip: eFmData 0 gives a number 0 to 15, 1 and 2 give a bit; any other value fails after
      * the exchange. *pcFmValue: out, 255 when there is none.
      */
-    TANDEKOR_API uint8_t TANDEKOR_SpecialGetFmRadioInfo(ResourceContext hResourceContext, uint8_t eFmData,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialGetFmRadioInfo(ResourceContext hResourceContext, uint8_t eFmData,
                                                         uint8_t* pcFmValue);
 
     /* As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 alone. */
-    TANDEKOR_API uint8_t TANDEKOR_SetFactoryTrackingByte(ResourceContext hResourceContext, uint8_t iOperationType,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SetFactoryTrackingByte(ResourceContext hResourceContext, uint8_t iOperationType,
                                                          uint16_t iDataAddress, uint8_t* pFactoryData);
 
     /* An argument of an upload: the host library's own, handed on as it is. As wide as a pointer. */
@@ -427,11 +543,11 @@ extern "C"
      * of the one before. Nothing checks that
      * the phone answers.
      */
-    TANDEKOR_API uint8_t TANDEKOR_UploadCEFS_File2(ResourceContext hResourceContext, TandekorUploadArgument a1,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_UploadCEFS_File2(ResourceContext hResourceContext, TandekorUploadArgument a1,
                                                    TandekorUploadArgument a2, TandekorUploadArgument a3);
-    TANDEKOR_API uint8_t TANDEKOR_UploadCEFS_File(ResourceContext hResourceContext, TandekorUploadArgument a1,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_UploadCEFS_File(ResourceContext hResourceContext, TandekorUploadArgument a1,
                                                   TandekorUploadArgument a2);
-    TANDEKOR_API uint8_t TANDEKOR_UploadMultiImage(
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_UploadMultiImage(
         ResourceContext hResourceContext, TandekorUploadArgument a1, TandekorUploadArgument a2,
         TandekorUploadArgument a3, TandekorUploadArgument a4, TandekorUploadArgument a5, TandekorUploadArgument a6,
         TandekorUploadArgument a7, TandekorUploadArgument a8, TandekorUploadArgument a9, TandekorUploadArgument a10,
