@@ -479,7 +479,8 @@ extern "C"
      * The state of the slider, from the word that the phone answers: for model 3 the word 0 is state 1 and any other 0;
      * for model 52 the words 3, 1 and 0 are 1, 2 and 0; for 53 to 55 the words 1, 2 and 3 are 1, 0 and 2; any other
      * word of 52 to 55 is 3, not known. Which of 0 to 2 is open, closed or between is the phone maker's. After a
-     * missing reply the state is that of the word 0, although the result is 0; so it is for a reply that is too short.
+     * missing reply the state is that of the word 0, although the result is 0; a reply that is too short counts as the
+     * word 0.
      *
      * [out] sState           see above; unchanged on any other model, with the result 0
      * [in]  iPhoneModelHint  52 to 55 is taken for the model; any other value asks the phone
