@@ -22,6 +22,26 @@ extern "C"
 {
 #endif
 
+    /* Bits of the word of TANDEKOR_FTM_GET_HARDWARE_VERSION: shift and mask of the chip's version. */
+    enum TandekorHardwareVersion
+    {
+        TANDEKOR_HARDWARE_VERSION_SHIFT = 12,
+        TANDEKOR_HARDWARE_VERSION_MASK = 65535
+    };
+
+    /* Sizes of buffers, and limits. */
+    enum TandekorFtmSize
+    {
+        TANDEKOR_FTM_FILE_NAME_SIZE = 128,
+        TANDEKOR_FTM_IMSI_SIZE = 9,
+        TANDEKOR_FTM_KC_FILE_SIZE = 9,
+        TANDEKOR_FTM_CAMERA_ID_SIZE = 25, /* no NUL */
+        TANDEKOR_FTM_SCAN_ENTRIES = 48,
+        TANDEKOR_FTM_PROGRAM_TEXT_SIZE = 96,
+        TANDEKOR_FTM_LINEARIZER_ENTRIES = 174,
+        TANDEKOR_FTM_LONGEST_FILE_WRITE = 3953
+    };
+
     /* --- Identification */
 
     /*

@@ -27,6 +27,60 @@ extern "C"
 {
 #endif
 
+    /* Networks of TANDEKOR_NetworkAndChannelPreselection, by the bytes of the NV items that they write. */
+    enum TandekorNetwork
+    {
+        TANDEKOR_NETWORK_0 = 0, /* without a channel */
+        TANDEKOR_NETWORK_2 = 2, /* channel of kind 0 */
+        TANDEKOR_NETWORK_3 = 3, /* channel of kind 3 */
+        TANDEKOR_NETWORK_4 = 4, /* channel of kind 2 */
+        TANDEKOR_NETWORK_5 = 5  /* without a channel */
+    };
+
+    /* WCDMA bands, by the host library's numbers, as they choose NV items. */
+    enum TandekorWcdmaBand
+    {
+        TANDEKOR_WCDMA_BAND_4 = 4,
+        TANDEKOR_WCDMA_BAND_5 = 5,
+        TANDEKOR_WCDMA_BAND_6 = 6
+    };
+
+    /* Audio device whose path needs a request of its own. The other numbers are the host library's. */
+    enum TandekorAudioDevice
+    {
+        TANDEKOR_AUDIO_DEVICE_WITH_BIAS = 15
+    };
+
+    /* What TANDEKOR_SpecialGetFmRadioInfo asks for. */
+    enum TandekorFmData
+    {
+        TANDEKOR_FM_DATA_NUMBER = 0,
+        TANDEKOR_FM_DATA_BIT_3 = 1,
+        TANDEKOR_FM_DATA_BIT_2 = 2,
+        TANDEKOR_FM_DATA_NONE = 255 /* its answer when there is none */
+    };
+
+    /* Sizes of buffers in bytes, and limits. */
+    enum TandekorProcedureSize
+    {
+        TANDEKOR_VERSION_FIELD_SIZE = 32,
+        TANDEKOR_BUILD_TEXT_SIZE = 512,
+        TANDEKOR_HOST_VALUE_SIZE = 64, /* room for a value whose type only the host library knows */
+        TANDEKOR_GSM_OFFSETS_SIZE = 128,
+        TANDEKOR_BT_ADDRESS_TEXT_SIZE = 13,
+        TANDEKOR_BT_ADDRESS_SIZE = 6,
+        TANDEKOR_IMEI_TEXT_SIZE = 16,
+        TANDEKOR_IMEI_SIZE = 9,
+        TANDEKOR_SERIAL_NUMBER_SIZE = 16,
+        TANDEKOR_PUBLIC_KEY_SIZE = 260,
+        TANDEKOR_IMAGE_NAME_SIZE = 128,
+        TANDEKOR_LOWEST_CHARGE_VOLTAGE = 4000,
+        TANDEKOR_HIGHEST_CHARGE_VOLTAGE = 4375,
+        TANDEKOR_LOWEST_CHARGE_CURRENT = 10,
+        TANDEKOR_HIGHEST_CHARGE_CURRENT = 300,
+        TANDEKOR_LAST_KEY_MAP = 11
+    };
+
     /* --- Log and callback */
 
     /*
@@ -143,7 +197,10 @@ extern "C"
         void* pVernoField9, void* pVernoField10, void* pVernoField11, void* pVernoField12,
         uint32_t* iMSMHardwareVersion, uint32_t* iBuildMobModel, char* sBuildId, char* sBuildModel);
 
-    /* --- Pins and cameras that depend on the phone model. Each asks for the model first. */
+    /* --- Pins and cameras that depend on the phone model
+     *
+     * Each asks for the model first.
+     */
 
     /*
      * Switches the light of a keypad row by its pins. A refusal on model 3 goes to standard output, and row 5 of model
@@ -183,7 +240,10 @@ extern "C"
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum,
                                                                     uint16_t* piCamId);
 
-    /* --- Receiver. The phone is in FTM mode. The library computes nothing: the caller works out the corrections. */
+    /* --- Receiver
+     *
+     * The phone is in FTM mode. The library computes nothing: the caller works out the corrections.
+     */
 
     /*
      * One measurement of the GSM receiver.
@@ -260,7 +320,10 @@ extern "C"
         int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3, uint16_t eVgaNvBand,
         uint16_t iOffset, uint8_t* piVsFreq);
 
-    /* --- Transmitter. The phone answers FTM requests. A procedure that fails leaves the transmitter as it is then. */
+    /* --- Transmitter
+     *
+     * The phone answers FTM requests. A procedure that fails leaves the transmitter as it is then.
+     */
 
     /*
      * GSM burst on a mode and channel with a PA DAC input; the transmitter is off at the end.
@@ -331,7 +394,10 @@ extern "C"
                                                                double* pdFirstValue, uint16_t iSecondAverageCount,
                                                                double* pdThirdValue, double* pdSecondValue);
 
-    /* --- Test calls of a phone in FTM mode. What a failed chain has opened stays open. Times are in milliseconds. */
+    /* --- Test calls of a phone in FTM mode
+     *
+     * What a failed chain has opened stays open. Times are in milliseconds.
+     */
 
     /*
      * A GSM call, in this order: receive metrics, handover to a channel, call on another channel, its traffic channel,
@@ -605,7 +671,10 @@ extern "C"
                                                                 uint16_t* piBtStatus, uint8_t* piBtParam1,
                                                                 uint8_t* piBtParam2, uint8_t* piBtParam3);
 
-    /* --- Charging and supply. Nothing is measured: the caller does that from outside. */
+    /* --- Charging and supply
+     *
+     * Nothing is measured: the caller does that from outside.
+     */
 
     /*
      * Low power mode, charger switch 7, a charger transistor, charger switch 3, charge limits, state of a transistor.
