@@ -670,9 +670,11 @@ extern "C"
      *
      * [in] iReason  0 always, 1 busy, 2 no reply, 3 not reachable ...; sent as one digit
      * [in] iMode    0 disable, 1 enable, 2 query, 3 register, 4 erase; sent as one digit. With 2 nothing after it is
-     * sent [in] sNumber  at most 12 characters are sent; left out, everything after it is left out too [in] iType type
-     * of the address, a whole number (129, 145 for +); may be left out [in] iClass   class of services, 0 to 999; may
-     * be left out [in] iTime    seconds before a call is forwarded, of which one digit is sent; may be left out
+     *               sent
+     * [in] sNumber  at most 12 characters are sent; left out, everything after it is left out too
+     * [in] iType    type of the address, a whole number (129, 145 for +); may be left out
+     * [in] iClass   class of services, 0 to 999; may be left out
+     * [in] iTime    seconds before a call is forwarded, of which one digit is sent; may be left out
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_CCFC(ResourceContext hResourceContext, uint8_t iReason,
                                                             uint8_t iMode, const char* sNumber, uint8_t iType,

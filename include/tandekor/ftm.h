@@ -165,8 +165,9 @@ extern "C"
      * Starts the real-time clock. The time that the phone answers is shown in the log only.
      *
      * [in,out] bStatus  sent with the request; then the phone's status, which decides (0 is success). A reply that is
-     * too short for it leaves it unchanged, and then the value sent decides [in]     iTime    time to start with, in
-     * the phone's unit
+     *         too
+     *                   short for it leaves it unchanged, and then the value sent decides
+     * [in]     iTime    time to start with, in the phone's unit
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_RTC_START(ResourceContext hResourceContext, uint8_t* bStatus,
                                                               uint16_t iTime);
@@ -257,7 +258,8 @@ extern "C"
      * [in]     iI2C_RegAddr     address of the register
      * [in]     iI2C_DataLen     bytes to read or write
      * [in,out, or null] piI2C_Data[iI2C_DataLen]  written by a read, sent by a write. Its first byte is shown in the
-     * log before the call, so it holds at least one byte, or is null when there are no data
+     *         log
+     *                           before the call, so it holds at least one byte, or is null when there are no data
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_I2C_DATA_ACCESS(ResourceContext hResourceContext,
                                                                     uint8_t iI2C_AccessType, uint8_t iI2C_SlaveAddr,
@@ -286,7 +288,9 @@ extern "C"
      *
      * [in]     eNum     number of the register
      * [in,out] sStatus  the phone's status, 0 for success; a reply too short for it leaves it unchanged, and then the
-     * value sent decides [in,out] iValue   content of the register
+     *         value
+     *                   sent decides
+     * [in,out] iValue   content of the register
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum,
                                                                 uint8_t* sStatus, uint16_t* iValue);
@@ -330,8 +334,11 @@ extern "C"
      * Read and write the Kc file of the SIM.
      *
      * [in,out] KC_File[TANDEKOR_FTM_KC_FILE_SIZE]  shown in the log as text and sent by the write; then, also after a
-     * write, what the reply holds [in,out] Status   shown in the log; then the phone's status, 0 for success. A reply
-     * that is too short for it leaves it unchanged, and then the caller's value decides
+     *         write,
+     *                   what the reply holds
+     * [in,out] Status   shown in the log; then the phone's status, 0 for success. A reply that is too short for it
+     *         leaves it
+     *                   unchanged, and then the caller's value decides
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_SIM_READ_KC_FILE(ResourceContext hResourceContext, uint8_t* KC_File,
                                                                      uint8_t* Status);
@@ -342,10 +349,13 @@ extern "C"
      * Reads or writes a file on the memory card.
      *
      * [in]     iAccessType      TandekorAccess; other access types send and read no data
-     * [in]     iMMC_DataLength  bytes to read or write. A write of more than TANDEKOR_FTM_LONGEST_FILE_WRITE is refused
-     * and nothing is sent. A read of more than the reply holds leaves pData unchanged; the status is then taken from
-     * the reply's end [in]     psFileName       path on the card, as in "\Test.bin", of which the first 128 characters
-     * are sent [in,out] pData[iMMC_DataLength]  written by a read, sent by a write
+     * [in]     iMMC_DataLength  bytes to read or write. A write of more than TANDEKOR_FTM_LONGEST_FILE_WRITE is
+     *         refused and
+     *                           nothing is sent. A read of more than the reply holds leaves pData unchanged; the
+     *                           status is
+     *                           then taken from the reply's end
+     * [in]     psFileName       path on the card, as in "\Test.bin", of which the first 128 characters are sent
+     * [in,out] pData[iMMC_DataLength]  written by a read, sent by a write
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_MMC_FILE_ACCESS(ResourceContext hResourceContext,
                                                                     uint8_t iAccessType, uint16_t iMMC_DataLength,

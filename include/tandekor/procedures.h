@@ -131,12 +131,15 @@ extern "C"
      * asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
      *
      * [in] iBootBoxPort  number of the boot box's serial port. The port is opened by the first call for this process
-     * alone and stays open until the connection ends; another number than the open one is refused. On Windows the port
+     *         alone and
+     *                    stays open until the connection ends; another number than the open one is refused. On Windows
+     *                    the port
      *                    is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as
-     * /dev/com5
+     *                    /dev/com5
      *                    -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process
-     * holds the port, its lines may be raised before it is refused [in] bFTMMode      TandekorPhoneMode; any other
-     * value than its first two leaves the mode unchanged
+     *                    holds the
+     *                    port, its lines may be raised before it is refused
+     * [in] bFTMMode      TandekorPhoneMode; any other value than its first two leaves the mode unchanged
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOn(ResourceContext hResourceContext,
                                                                        uint16_t iBootBoxPort, uint8_t bFTMMode);
@@ -146,7 +149,8 @@ extern "C"
      * silent.
      *
      * [in] iBootBoxPort  the port with which the phone was switched on in this connection; another number fails after
-     * the phone has gone offline, and a phone that was switched on by other means cannot be switched off here
+     *         the phone
+     *                    has gone offline, and a phone that was switched on by other means cannot be switched off here
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOff(ResourceContext hResourceContext,
                                                                         uint16_t iBootBoxPort);
@@ -184,12 +188,17 @@ extern "C"
      * [out] sReleaseDate[TANDEKOR_VERSION_FIELD_SIZE]  date of the release
      * [out] sReleaseTime[TANDEKOR_VERSION_FIELD_SIZE]  its time
      * [out] sVersionDir[TANDEKOR_VERSION_FIELD_SIZE]   directory of the version
-     * [out] pVernoField6[TANDEKOR_HOST_VALUE_SIZE], pVernoField7[TANDEKOR_HOST_VALUE_SIZE],
-     * pVernoField8[TANDEKOR_HOST_VALUE_SIZE], pVernoField9[TANDEKOR_HOST_VALUE_SIZE]  as the host library has them
-     * [out] pVernoField10[TANDEKOR_HOST_VALUE_SIZE], pVernoField11[TANDEKOR_HOST_VALUE_SIZE],
-     * pVernoField12[TANDEKOR_HOST_VALUE_SIZE]  as the host library has them [out] iMSMHardwareVersion  hardware version
-     * of the chip [out] iBuildMobModel       model number of the build [out] sBuildId[TANDEKOR_BUILD_TEXT_SIZE] text of
-     * the build [out] sBuildModel[TANDEKOR_BUILD_TEXT_SIZE]  text of the model
+     * [out] pVernoField6[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] pVernoField7[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] pVernoField8[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] pVernoField9[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] pVernoField10[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] pVernoField11[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] pVernoField12[TANDEKOR_HOST_VALUE_SIZE]  as the host library has it
+     * [out] iMSMHardwareVersion  hardware version of the chip
+     * [out] iBuildMobModel       model number of the build
+     * [out] sBuildId[TANDEKOR_BUILD_TEXT_SIZE]     text of the build
+     * [out] sBuildModel[TANDEKOR_BUILD_TEXT_SIZE]  text of the model
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_CheckSWBuild(
         ResourceContext hResourceContext, char* sCompileDate, char* sCompileTime, char* sReleaseDate,
@@ -207,8 +216,9 @@ extern "C"
      * 3 writes no line.
      *
      * [in] iRowNumber  on the models 52 to 55 the rows 1 to 6, and 7 for all; on model 3 row 7 for the inside keypad
-     * and 5 for the outside one [in] bOnOff      1 on, 0 off. The outside keypad's drive level, 0 to 15, is 15 times
-     * this value cut to a byte
+     *         and 5 for
+     *                  the outside one
+     * [in] bOnOff      1 on, 0 off. The outside keypad's drive level, 0 to 15, is 15 times this value cut to a byte
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext,
                                                                            uint16_t iRowNumber, uint8_t bOnOff);
@@ -218,7 +228,8 @@ extern "C"
      *
      * [out] pcFlipState     the character '0' or '1'
      * [in]  bSkipModelRead  0; any other value leaves the model unknown, and the call fails as on another model, which
-     * is said on standard output
+     *         is said
+     *                       on standard output
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState,
                                                              uint8_t bSkipModelRead);
@@ -301,8 +312,10 @@ extern "C"
      *
      * [in] bStartBatchMode  passed to the host library; the batch is flushed whatever it is
      * [in, or null] Gsm900Range1[16], Gsm900Range2[16], Gsm900Range3[16], Gsm900Range4[16]  gain ranges of GSM 900
-     * [in, or null] Gsm1900Range1[32], Gsm1900Range2[32], Gsm1900Range3[32], Gsm1900Range4[32]  gain ranges of GSM 1900
-     * [in, or null] Gsm1800Range1[32], Gsm1800Range2[32], Gsm1800Range3[32], Gsm1800Range4[32]  gain ranges of GSM 1800
+     * [in, or null] Gsm1900Range1[32], Gsm1900Range2[32], Gsm1900Range3[32], Gsm1900Range4[32]  gain ranges of GSM
+     *         1900
+     * [in, or null] Gsm1800Range1[32], Gsm1800Range2[32], Gsm1800Range3[32], Gsm1800Range4[32]  gain ranges of GSM
+     *         1800
      * [in, or null] Gsm850Range1[16], Gsm850Range2[16], Gsm850Range3[16], Gsm850Range4[16]  gain ranges of GSM 850
      * [in] eNvBand     TandekorWcdmaBand of the LNA offsets
      * [in] iOffset1, iOffset2, iOffset3  LNA offsets
@@ -387,8 +400,9 @@ extern "C"
      * [in]  iAverageCount        readings for the first value; 0 returns 0 with a first value of 0.0
      * [out] pdFirstValue         average of the first ADC channel
      * [in]  iSecondAverageCount  readings for the others; 0 returns 0 with the first value measured and the others
-     * 255.0 [out] pdThirdValue         third channel; mind that its pointer stands before the second's [out]
-     * pdSecondValue        second channel
+     *         255.0
+     * [out] pdThirdValue         third channel; mind that its pointer stands before the second's
+     * [out] pdSecondValue        second channel
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_CheckDACValues(ResourceContext hResourceContext, uint16_t iAverageCount,
                                                                double* pdFirstValue, uint16_t iSecondAverageCount,
@@ -459,13 +473,17 @@ extern "C"
      * [in]  iH_RNTI                     HS-DSCH: identity of the phone
      * [in]  iNum_HARQ_Processes         HS-DSCH: number of HARQ processes
      * [in]  bMemPartitionValid          HS-DSCH: 1 if the next argument counts
-     * [in, or null] aiMemPartitionInfo[TANDEKOR_HOST_VALUE_SIZE]  HS-DSCH: partition of the memory, as the host library
-     * has it; at least one byte for each HARQ process [in]  iCPICH_PowerOffset          HS-DPCCH: power offset of the
-     * pilot [in]  iCQI_FeedbackCycle          HS-DPCCH: cycle of the channel quality reports [in] iCQI_RepetitionFactor
-     * HS-DPCCH: their repetition [in]  iDeltaCQI                   HS-DPCCH: their power offset [in]  iDeltaACK
-     * HS-DPCCH: power offset of ACK [in]  iDeltaNACK                  HS-DPCCH: power offset of NACK [in]
-     * iACK_NACK_RepetitionFactor  HS-DPCCH: repetition of both [out] pHSDPA_BER_State            state, the host
-     * library's number
+     * [in, or null] aiMemPartitionInfo[TANDEKOR_HOST_VALUE_SIZE]  HS-DSCH: partition of the memory, as the host
+     *         library has it;
+     *                                   at least one byte for each HARQ process
+     * [in]  iCPICH_PowerOffset          HS-DPCCH: power offset of the pilot
+     * [in]  iCQI_FeedbackCycle          HS-DPCCH: cycle of the channel quality reports
+     * [in]  iCQI_RepetitionFactor       HS-DPCCH: their repetition
+     * [in]  iDeltaCQI                   HS-DPCCH: their power offset
+     * [in]  iDeltaACK                   HS-DPCCH: power offset of ACK
+     * [in]  iDeltaNACK                  HS-DPCCH: power offset of NACK
+     * [in]  iACK_NACK_RepetitionFactor  HS-DPCCH: repetition of both
+     * [out] pHSDPA_BER_State            state, the host library's number
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_HSDPA(
         ResourceContext hResourceContext, uint8_t iReconfigBitmask, uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes,
@@ -618,7 +636,8 @@ extern "C"
      * Empties the queue of key events and reads its size and the next event. There is no wait for a key.
      *
      * [out] piKeypressQueueSize  events in the queue just after it was emptied
-     * [out] piKeyPressID         key, by the software identifier of the loaded map (its ASCII code for 0 to 9, * and #)
+     * [out] piKeyPressID         key, by the software identifier of the loaded map (its ASCII code for 0 to 9, * and
+     *         #)
      * [out] piKeyPressEvent      whether the key went down or up, the host library's number
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestKeypad(ResourceContext hResourceContext,
@@ -724,7 +743,8 @@ extern "C"
      * Reads the IMEI.
      *
      * [out] sImei[TANDEKOR_IMEI_TEXT_SIZE]  15 digits and a NUL; empty if the phone refuses the item, and untouched if
-     * the exchange fails
+     *         the
+     *                                       exchange fails
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei);
 
@@ -741,10 +761,11 @@ extern "C"
      * Each comparison stops after the caller's first zero byte; later bytes are NOT compared. On success the result is
      * the host library's byte of the last command. The steps are logged in words of their own; nothing of the key is.
      *
-     * [in] pExpectedImei[TANDEKOR_IMEI_SIZE]            08, then 15 digits as half-bytes, the first over an A: 8A 21 43
-     * ... [in] pExpectedBtAddress[TANDEKOR_BT_ADDRESS_SIZE] last byte of the address first [in]
-     * pExpectedSerial[TANDEKOR_SERIAL_NUMBER_SIZE] as the phone stores it [in] pPublicKey[TANDEKOR_PUBLIC_KEY_SIZE] the
-     * key that is written
+     * [in] pExpectedImei[TANDEKOR_IMEI_SIZE]            08, then 15 digits as half-bytes, the first over an A: 8A 21
+     *         43 ...
+     * [in] pExpectedBtAddress[TANDEKOR_BT_ADDRESS_SIZE] last byte of the address first
+     * [in] pExpectedSerial[TANDEKOR_SERIAL_NUMBER_SIZE] as the phone stores it
+     * [in] pPublicKey[TANDEKOR_PUBLIC_KEY_SIZE]         the key that is written
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext,
                                                                   const uint8_t* pExpectedImei,
@@ -782,8 +803,8 @@ extern "C"
      * Information of the radio chip.
      *
      * [in]  eFmData    TandekorFmData: 0 asks for a number 0 to 15, 1 and 2 for a bit; any other value fails after the
-     * exchange [out] pcFmValue  the answer, TANDEKOR_FM_DATA_NONE when there is none; not written if the phone does not
-     * answer
+     *         exchange
+     * [out] pcFmValue  the answer, TANDEKOR_FM_DATA_NONE when there is none; not written if the phone does not answer
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialGetFmRadioInfo(ResourceContext hResourceContext, uint8_t eFmData,
                                                                       uint8_t* pcFmValue);
