@@ -14,7 +14,8 @@ namespace
 
 const char* ExtensionVersion()
 {
-    return ConnectionRegistry::Instance().qpstMode ? "TANDEKOR V02.4.15,QPST" : "TANDEKOR V02.4.15,QPHONEMS";
+    return ConnectionRegistry::Instance().qpstMode ? "TANDEKOR V0" TANDEKOR_VERSION_TEXT ",QPST"
+                                                   : "TANDEKOR V0" TANDEKOR_VERSION_TEXT ",QPHONEMS";
 }
 
 const char* SupportedHostVersion()
