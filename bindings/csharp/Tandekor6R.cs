@@ -2787,4 +2787,292 @@ public static class Tandekor6R
     /// <param name="a23">arguments of the host library, passed on as they are</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_UploadMultiImage(uint hResourceContext, UIntPtr a1, UIntPtr a2, UIntPtr a3, UIntPtr a4, UIntPtr a5, UIntPtr a6, UIntPtr a7, UIntPtr a8, UIntPtr a9, UIntPtr a10, UIntPtr a11, UIntPtr a12, UIntPtr a13, UIntPtr a14, UIntPtr a15, UIntPtr a16, UIntPtr a17, UIntPtr a18, UIntPtr a19, UIntPtr a20, UIntPtr a21, UIntPtr a22, UIntPtr a23);
+
+    /// <summary>
+    /// Why the last function that returned 0 did so. The text is valid until the next call; never null.
+    /// </summary>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern IntPtr PHONE_LastError();
+
+    /// <summary>
+    /// `reset`: a fresh phone of model 52, on and online; no scripts, no records. Connections and the log's file stay
+    /// open.
+    /// </summary>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Reset();
+
+    /// <summary>
+    /// One line of a script, or all lines of a file up to the first that is wrong; the error then begins with FILE:LINE.
+    /// What stands before that line has taken effect.
+    /// </summary>
+    /// <param name="sLine"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Run([MarshalAs(UnmanagedType.LPStr)] string sLine);
+
+    /// <summary>
+    /// One line of a script, or all lines of a file up to the first that is wrong; the error then begins with FILE:LINE.
+    /// What stands before that line has taken effect.
+    /// </summary>
+    /// <param name="sFile"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_RunScript([MarshalAs(UnmanagedType.LPStr)] string sFile);
+
+    /// <summary>
+    /// `model 3`: a fresh phone of this model; scripts and records stay.
+    /// </summary>
+    /// <param name="iModel"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetModel(uint iModel);
+
+    /// <summary>
+    /// `set battery 5`: a value by name. Names that begin with + or ^ are the phone's AT settings, as in `set +CLVL 4`;
+    /// docs/simulator.md lists the others. Numbers are decimal, or hexadecimal after 0x.
+    /// </summary>
+    /// <param name="sName"></param>
+    /// <param name="sValue"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Set([MarshalAs(UnmanagedType.LPStr)] string sName, [MarshalAs(UnmanagedType.LPStr)] string sValue);
+
+    /// <summary>
+    /// iSize: bytes of the buffer at sValue, 1 at least.
+    /// </summary>
+    /// <param name="sName"></param>
+    /// <param name="sValue"></param>
+    /// <param name="iSize"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Get([MarshalAs(UnmanagedType.LPStr)] string sName, [In, Out] byte[] sValue, uint iSize);
+
+    /// <summary>
+    /// `nv 453 01`: content of an NV item. Reading: *piLength is the item's length in bytes, of which at most iSize are
+    /// copied; 0 for an item that is not there.
+    /// </summary>
+    /// <param name="iItem"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetNvItem(ushort iItem, [In] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `nv 453 01`: content of an NV item. Reading: *piLength is the item's length in bytes, of which at most iSize are
+    /// copied; 0 for an item that is not there.
+    /// </summary>
+    /// <param name="iItem"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iSize"></param>
+    /// <param name="piLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_GetNvItem(ushort iItem, [In, Out] byte[] pBytes, uint iSize, ref uint piLength);
+
+    /// <summary>
+    /// `nv-status 453 5`: the item is refused with this status, when read and when written; status 0 ends that.
+    /// </summary>
+    /// <param name="iItem"></param>
+    /// <param name="iStatus"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetNvStatus(ushort iItem, ushort iStatus);
+
+    /// <summary>
+    /// `memory 0x80001000 01 02`: bytes of the phone's memory and of the registers in it.
+    /// </summary>
+    /// <param name="iAddress"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetMemory(uint iAddress, [In] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `memory 0x80001000 01 02`: bytes of the phone's memory and of the registers in it.
+    /// </summary>
+    /// <param name="iAddress"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_GetMemory(uint iAddress, [In, Out] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `i2c 0x45 0x222F 13`: content of a register behind the I2C bus, by device and register address.
+    /// </summary>
+    /// <param name="iDevice"></param>
+    /// <param name="iRegister"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetI2cRegister(byte iDevice, ushort iRegister, [In] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `adc 1 640`: reading of an ADC channel.
+    /// </summary>
+    /// <param name="iChannel"></param>
+    /// <param name="iValue"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetAdc(ushort iChannel, ushort iValue);
+
+    /// <summary>
+    /// `pin 12 1`: level at a pin's input, 0 or 1. *piOutput: the level that the pin was told to drive.
+    /// </summary>
+    /// <param name="iPin"></param>
+    /// <param name="iLevel"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetPin(byte iPin, byte iLevel);
+
+    /// <summary>
+    /// `pin 12 1`: level at a pin's input, 0 or 1. *piOutput: the level that the pin was told to drive.
+    /// </summary>
+    /// <param name="iPin"></param>
+    /// <param name="piOutput"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_GetPin(byte iPin, ref byte piOutput);
+
+    /// <summary>
+    /// `key 32 1`: puts a key event at the end of the key queue.
+    /// </summary>
+    /// <param name="iKey"></param>
+    /// <param name="iEvent"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_QueueKey(ushort iKey, byte iEvent);
+
+    /// <summary>
+    /// `sim-file 28589 00000002`: file of the SIM card by its number, content as hexadecimal digits.
+    /// </summary>
+    /// <param name="iFile"></param>
+    /// <param name="sDigits"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetSimFile(ushort iFile, [MarshalAs(UnmanagedType.LPStr)] string sDigits);
+
+    /// <summary>
+    /// `card-file test.txt "abc"`: file of the memory card, name of 1 to 127 characters.
+    /// </summary>
+    /// <param name="sName"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetCardFile([MarshalAs(UnmanagedType.LPStr)] string sName, [In] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `file Pictures/new.jpg FF D8`: a file in the phone's tree; its folders are made. `delete Pictures`: a file, or a
+    /// folder with all that is in it. Reading is as with an NV item, but 0 is returned for a file that is not there.
+    /// </summary>
+    /// <param name="sPath"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetFile([MarshalAs(UnmanagedType.LPStr)] string sPath, [In] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `file Pictures/new.jpg FF D8`: a file in the phone's tree; its folders are made. `delete Pictures`: a file, or a
+    /// folder with all that is in it. Reading is as with an NV item, but 0 is returned for a file that is not there.
+    /// </summary>
+    /// <param name="sPath"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iSize"></param>
+    /// <param name="piLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_GetFile([MarshalAs(UnmanagedType.LPStr)] string sPath, [In, Out] byte[] pBytes, uint iSize, ref uint piLength);
+
+    /// <summary>
+    /// `file Pictures/new.jpg FF D8`: a file in the phone's tree; its folders are made. `delete Pictures`: a file, or a
+    /// folder with all that is in it. Reading is as with an NV item, but 0 is returned for a file that is not there.
+    /// </summary>
+    /// <param name="sPath"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_DeleteFile([MarshalAs(UnmanagedType.LPStr)] string sPath);
+
+    /// <summary>
+    /// `refuse QLIB_SendRAW 3`, `refuse-from QLIB_SendRAW 3`: the n-th call of an operation, or that one and all later
+    /// ones, has no effect and returns 0. iCall: 1 at least.
+    /// </summary>
+    /// <param name="sOperation"></param>
+    /// <param name="iCall"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Refuse([MarshalAs(UnmanagedType.LPStr)] string sOperation, uint iCall);
+
+    /// <summary>
+    /// `refuse QLIB_SendRAW 3`, `refuse-from QLIB_SendRAW 3`: the n-th call of an operation, or that one and all later
+    /// ones, has no effect and returns 0. iCall: 1 at least.
+    /// </summary>
+    /// <param name="sOperation"></param>
+    /// <param name="iCall"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_RefuseFrom([MarshalAs(UnmanagedType.LPStr)] string sOperation, uint iCall);
+
+    /// <summary>
+    /// `delay QLIB_SendSync 2 1500`: the n-th call takes these milliseconds more. What every answer takes is the value
+    /// "latency".
+    /// </summary>
+    /// <param name="sOperation"></param>
+    /// <param name="iCall"></param>
+    /// <param name="iMilliseconds"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Delay([MarshalAs(UnmanagedType.LPStr)] string sOperation, uint iCall, uint iMilliseconds);
+
+    /// <summary>
+    /// `silence 2`: that many of the next raw and synchronous exchanges are not answered, and take their time-out.
+    /// 0xFFFFFFFF: all until the next PHONE_Silence; 0: none.
+    /// </summary>
+    /// <param name="iExchanges"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Silence(uint iExchanges);
+
+    /// <summary>
+    /// `reply QLIB_SendSync 1 - 4B 0B 00`: the reply to the next exchange of QLIB_SendRAW or QLIB_SendSync for which
+    /// none is queued, in the place of the phone's own. iResult is what the operation returns; iClaimedLength what it
+    /// reports as the length whatever it delivers, - or -1 for the true one. iLength: up to 65535.
+    /// </summary>
+    /// <param name="sOperation"></param>
+    /// <param name="iResult"></param>
+    /// <param name="iClaimedLength"></param>
+    /// <param name="pBytes"></param>
+    /// <param name="iLength"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_QueueReply([MarshalAs(UnmanagedType.LPStr)] string sOperation, byte iResult, int iClaimedLength, [In] byte[] pBytes, uint iLength);
+
+    /// <summary>
+    /// `obex-response 0x83 0xD3`: the file server answers every packet of this operation with the response code alone; 0
+    /// ends that.
+    /// </summary>
+    /// <param name="iOperation"></param>
+    /// <param name="iResponse"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_SetObexResponse(byte iOperation, byte iResponse);
+
+    /// <summary>
+    /// `record 100000`: how many calls and how many log texts are kept; after twice as many the older half is dropped.
+    /// 1000 at first. What was kept before is forgotten.
+    /// </summary>
+    /// <param name="iMost"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_Record(uint iMost);
+
+    /// <summary>
+    /// How often an operation was called since the last PHONE_Reset or PHONE_Record; 0xFFFFFFFF for one that does not
+    /// exist.
+    /// </summary>
+    /// <param name="sOperation"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern uint PHONE_CountCalls([MarshalAs(UnmanagedType.LPStr)] string sOperation);
+
+    /// <summary>
+    /// The last call of an operation as "QLIB_DIAG_CONTROL_F(2)": the in-arguments after the handle, numbers in decimal,
+    /// bytes in hexadecimal. An empty name asks for the last call of all.
+    /// </summary>
+    /// <param name="sOperation"></param>
+    /// <param name="sCall"></param>
+    /// <param name="iSize"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_LastCall([MarshalAs(UnmanagedType.LPStr)] string sOperation, [In, Out] byte[] sCall, uint iSize);
+
+    /// <summary>
+    /// Texts that the library has written to the text log, muted or not; of those that are kept the n-th, from 1.
+    /// </summary>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern uint PHONE_CountLogTexts();
+
+    /// <summary>
+    /// Texts that the library has written to the text log, muted or not; of those that are kept the n-th, from 1.
+    /// </summary>
+    /// <param name="iText"></param>
+    /// <param name="sText"></param>
+    /// <param name="iSize"></param>
+    [DllImport(Simulator, CallingConvention = CallingConvention.Cdecl)]
+    public static extern byte PHONE_GetLogText(uint iText, [In, Out] byte[] sText, uint iSize);
 }

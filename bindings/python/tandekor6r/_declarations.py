@@ -2670,4 +2670,273 @@ FUNCTIONS = {
         ),
         "Uploads of the host library, which it has only in its QPST mode. The result is the host library's byte. Progress\ngoes to the function that TANDEKOR_SetCallback has set, with percentages only for an upload whose total is above\n2000. Status and percentage are kept from one upload to the next, so the first status of an upload comes with the\nlast percentage of the one before. Nothing checks that the phone answers.\n\nhResourceContext [in]  handle of the connection\na1 [in]  arguments of the host library, passed on as they are\na2 [in]  arguments of the host library, passed on as they are\na3 [in]  arguments of the host library, passed on as they are\na4 [in]  arguments of the host library, passed on as they are\na5 [in]  arguments of the host library, passed on as they are\na6 [in]  arguments of the host library, passed on as they are\na7 [in]  arguments of the host library, passed on as they are\na8 [in]  arguments of the host library, passed on as they are\na9 [in]  arguments of the host library, passed on as they are\na10 [in]  arguments of the host library, passed on as they are\na11 [in]  arguments of the host library, passed on as they are\na12 [in]  arguments of the host library, passed on as they are\na13 [in]  arguments of the host library, passed on as they are\na14 [in]  arguments of the host library, passed on as they are\na15 [in]  arguments of the host library, passed on as they are\na16 [in]  arguments of the host library, passed on as they are\na17 [in]  arguments of the host library, passed on as they are\na18 [in]  arguments of the host library, passed on as they are\na19 [in]  arguments of the host library, passed on as they are\na20 [in]  arguments of the host library, passed on as they are\na21 [in]  arguments of the host library, passed on as they are\na22 [in]  arguments of the host library, passed on as they are\na23 [in]  arguments of the host library, passed on as they are\n",
     ),
+    'PHONE_LastError': (
+        'const char*',
+        (
+        ),
+        'Why the last function that returned 0 did so. The text is valid until the next call; never null.\n\n',
+    ),
+    'PHONE_Reset': (
+        'uint8_t',
+        (
+        ),
+        "`reset`: a fresh phone of model 52, on and online; no scripts, no records. Connections and the log's file stay\nopen.\n\n",
+    ),
+    'PHONE_Run': (
+        'uint8_t',
+        (
+            ('sLine', 'char', True, True, 'in', False, None, None),
+        ),
+        'One line of a script, or all lines of a file up to the first that is wrong; the error then begins with FILE:LINE.\nWhat stands before that line has taken effect.\n\nsLine [in]  \n',
+    ),
+    'PHONE_RunScript': (
+        'uint8_t',
+        (
+            ('sFile', 'char', True, True, 'in', False, None, None),
+        ),
+        'One line of a script, or all lines of a file up to the first that is wrong; the error then begins with FILE:LINE.\nWhat stands before that line has taken effect.\n\nsFile [in]  \n',
+    ),
+    'PHONE_SetModel': (
+        'uint8_t',
+        (
+            ('iModel', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`model 3`: a fresh phone of this model; scripts and records stay.\n\niModel [in]  \n',
+    ),
+    'PHONE_Set': (
+        'uint8_t',
+        (
+            ('sName', 'char', True, True, 'in', False, None, None),
+            ('sValue', 'char', True, True, 'in', False, None, None),
+        ),
+        "`set battery 5`: a value by name. Names that begin with + or ^ are the phone's AT settings, as in `set +CLVL 4`;\ndocs/simulator.md lists the others. Numbers are decimal, or hexadecimal after 0x.\n\nsName [in]  \nsValue [in]  \n",
+    ),
+    'PHONE_Get': (
+        'uint8_t',
+        (
+            ('sName', 'char', True, True, 'in', False, None, None),
+            ('sValue', 'char', True, False, 'out', False, 'iSize', None),
+            ('iSize', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        'iSize: bytes of the buffer at sValue, 1 at least.\n\nsName [in]  \nsValue [out]  \niSize [in]  \n',
+    ),
+    'PHONE_SetNvItem': (
+        'uint8_t',
+        (
+            ('iItem', 'uint16_t', False, False, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        "`nv 453 01`: content of an NV item. Reading: *piLength is the item's length in bytes, of which at most iSize are\ncopied; 0 for an item that is not there.\n\niItem [in]  \npBytes [in]  \niLength [in]  \n",
+    ),
+    'PHONE_GetNvItem': (
+        'uint8_t',
+        (
+            ('iItem', 'uint16_t', False, False, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, False, 'out', False, 'iSize', None),
+            ('iSize', 'uint32_t', False, False, 'in', False, None, None),
+            ('piLength', 'uint32_t', True, False, 'out', False, None, None),
+        ),
+        "`nv 453 01`: content of an NV item. Reading: *piLength is the item's length in bytes, of which at most iSize are\ncopied; 0 for an item that is not there.\n\niItem [in]  \npBytes [out]  \niSize [in]  \npiLength [out]  \n",
+    ),
+    'PHONE_SetNvStatus': (
+        'uint8_t',
+        (
+            ('iItem', 'uint16_t', False, False, 'in', False, None, None),
+            ('iStatus', 'uint16_t', False, False, 'in', False, None, None),
+        ),
+        '`nv-status 453 5`: the item is refused with this status, when read and when written; status 0 ends that.\n\niItem [in]  \niStatus [in]  \n',
+    ),
+    'PHONE_SetMemory': (
+        'uint8_t',
+        (
+            ('iAddress', 'uint32_t', False, False, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        "`memory 0x80001000 01 02`: bytes of the phone's memory and of the registers in it.\n\niAddress [in]  \npBytes [in]  \niLength [in]  \n",
+    ),
+    'PHONE_GetMemory': (
+        'uint8_t',
+        (
+            ('iAddress', 'uint32_t', False, False, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, False, 'out', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        "`memory 0x80001000 01 02`: bytes of the phone's memory and of the registers in it.\n\niAddress [in]  \npBytes [out]  \niLength [in]  \n",
+    ),
+    'PHONE_SetI2cRegister': (
+        'uint8_t',
+        (
+            ('iDevice', 'uint8_t', False, False, 'in', False, None, None),
+            ('iRegister', 'uint16_t', False, False, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`i2c 0x45 0x222F 13`: content of a register behind the I2C bus, by device and register address.\n\niDevice [in]  \niRegister [in]  \npBytes [in]  \niLength [in]  \n',
+    ),
+    'PHONE_SetAdc': (
+        'uint8_t',
+        (
+            ('iChannel', 'uint16_t', False, False, 'in', False, None, None),
+            ('iValue', 'uint16_t', False, False, 'in', False, None, None),
+        ),
+        '`adc 1 640`: reading of an ADC channel.\n\niChannel [in]  \niValue [in]  \n',
+    ),
+    'PHONE_SetPin': (
+        'uint8_t',
+        (
+            ('iPin', 'uint8_t', False, False, 'in', False, None, None),
+            ('iLevel', 'uint8_t', False, False, 'in', False, None, None),
+        ),
+        "`pin 12 1`: level at a pin's input, 0 or 1. *piOutput: the level that the pin was told to drive.\n\niPin [in]  \niLevel [in]  \n",
+    ),
+    'PHONE_GetPin': (
+        'uint8_t',
+        (
+            ('iPin', 'uint8_t', False, False, 'in', False, None, None),
+            ('piOutput', 'uint8_t', True, False, 'out', False, None, None),
+        ),
+        "`pin 12 1`: level at a pin's input, 0 or 1. *piOutput: the level that the pin was told to drive.\n\niPin [in]  \npiOutput [out]  \n",
+    ),
+    'PHONE_QueueKey': (
+        'uint8_t',
+        (
+            ('iKey', 'uint16_t', False, False, 'in', False, None, None),
+            ('iEvent', 'uint8_t', False, False, 'in', False, None, None),
+        ),
+        '`key 32 1`: puts a key event at the end of the key queue.\n\niKey [in]  \niEvent [in]  \n',
+    ),
+    'PHONE_SetSimFile': (
+        'uint8_t',
+        (
+            ('iFile', 'uint16_t', False, False, 'in', False, None, None),
+            ('sDigits', 'char', True, True, 'in', False, None, None),
+        ),
+        '`sim-file 28589 00000002`: file of the SIM card by its number, content as hexadecimal digits.\n\niFile [in]  \nsDigits [in]  \n',
+    ),
+    'PHONE_SetCardFile': (
+        'uint8_t',
+        (
+            ('sName', 'char', True, True, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`card-file test.txt "abc"`: file of the memory card, name of 1 to 127 characters.\n\nsName [in]  \npBytes [in]  \niLength [in]  \n',
+    ),
+    'PHONE_SetFile': (
+        'uint8_t',
+        (
+            ('sPath', 'char', True, True, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        "`file Pictures/new.jpg FF D8`: a file in the phone's tree; its folders are made. `delete Pictures`: a file, or a\nfolder with all that is in it. Reading is as with an NV item, but 0 is returned for a file that is not there.\n\nsPath [in]  \npBytes [in]  \niLength [in]  \n",
+    ),
+    'PHONE_GetFile': (
+        'uint8_t',
+        (
+            ('sPath', 'char', True, True, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, False, 'out', False, 'iSize', None),
+            ('iSize', 'uint32_t', False, False, 'in', False, None, None),
+            ('piLength', 'uint32_t', True, False, 'out', False, None, None),
+        ),
+        "`file Pictures/new.jpg FF D8`: a file in the phone's tree; its folders are made. `delete Pictures`: a file, or a\nfolder with all that is in it. Reading is as with an NV item, but 0 is returned for a file that is not there.\n\nsPath [in]  \npBytes [out]  \niSize [in]  \npiLength [out]  \n",
+    ),
+    'PHONE_DeleteFile': (
+        'uint8_t',
+        (
+            ('sPath', 'char', True, True, 'in', False, None, None),
+        ),
+        "`file Pictures/new.jpg FF D8`: a file in the phone's tree; its folders are made. `delete Pictures`: a file, or a\nfolder with all that is in it. Reading is as with an NV item, but 0 is returned for a file that is not there.\n\nsPath [in]  \n",
+    ),
+    'PHONE_Refuse': (
+        'uint8_t',
+        (
+            ('sOperation', 'char', True, True, 'in', False, None, None),
+            ('iCall', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`refuse QLIB_SendRAW 3`, `refuse-from QLIB_SendRAW 3`: the n-th call of an operation, or that one and all later\nones, has no effect and returns 0. iCall: 1 at least.\n\nsOperation [in]  \niCall [in]  \n',
+    ),
+    'PHONE_RefuseFrom': (
+        'uint8_t',
+        (
+            ('sOperation', 'char', True, True, 'in', False, None, None),
+            ('iCall', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`refuse QLIB_SendRAW 3`, `refuse-from QLIB_SendRAW 3`: the n-th call of an operation, or that one and all later\nones, has no effect and returns 0. iCall: 1 at least.\n\nsOperation [in]  \niCall [in]  \n',
+    ),
+    'PHONE_Delay': (
+        'uint8_t',
+        (
+            ('sOperation', 'char', True, True, 'in', False, None, None),
+            ('iCall', 'uint32_t', False, False, 'in', False, None, None),
+            ('iMilliseconds', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`delay QLIB_SendSync 2 1500`: the n-th call takes these milliseconds more. What every answer takes is the value\n"latency".\n\nsOperation [in]  \niCall [in]  \niMilliseconds [in]  \n',
+    ),
+    'PHONE_Silence': (
+        'uint8_t',
+        (
+            ('iExchanges', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`silence 2`: that many of the next raw and synchronous exchanges are not answered, and take their time-out.\n0xFFFFFFFF: all until the next PHONE_Silence; 0: none.\n\niExchanges [in]  \n',
+    ),
+    'PHONE_QueueReply': (
+        'uint8_t',
+        (
+            ('sOperation', 'char', True, True, 'in', False, None, None),
+            ('iResult', 'uint8_t', False, False, 'in', False, None, None),
+            ('iClaimedLength', 'int32_t', False, False, 'in', False, None, None),
+            ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
+            ('iLength', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        "`reply QLIB_SendSync 1 - 4B 0B 00`: the reply to the next exchange of QLIB_SendRAW or QLIB_SendSync for which\nnone is queued, in the place of the phone's own. iResult is what the operation returns; iClaimedLength what it\nreports as the length whatever it delivers, - or -1 for the true one. iLength: up to 65535.\n\nsOperation [in]  \niResult [in]  \niClaimedLength [in]  \npBytes [in]  \niLength [in]  \n",
+    ),
+    'PHONE_SetObexResponse': (
+        'uint8_t',
+        (
+            ('iOperation', 'uint8_t', False, False, 'in', False, None, None),
+            ('iResponse', 'uint8_t', False, False, 'in', False, None, None),
+        ),
+        '`obex-response 0x83 0xD3`: the file server answers every packet of this operation with the response code alone; 0\nends that.\n\niOperation [in]  \niResponse [in]  \n',
+    ),
+    'PHONE_Record': (
+        'uint8_t',
+        (
+            ('iMost', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        '`record 100000`: how many calls and how many log texts are kept; after twice as many the older half is dropped.\n1000 at first. What was kept before is forgotten.\n\niMost [in]  \n',
+    ),
+    'PHONE_CountCalls': (
+        'uint32_t',
+        (
+            ('sOperation', 'char', True, True, 'in', False, None, None),
+        ),
+        'How often an operation was called since the last PHONE_Reset or PHONE_Record; 0xFFFFFFFF for one that does not\nexist.\n\nsOperation [in]  \n',
+    ),
+    'PHONE_LastCall': (
+        'uint8_t',
+        (
+            ('sOperation', 'char', True, True, 'in', False, None, None),
+            ('sCall', 'char', True, False, 'out', False, 'iSize', None),
+            ('iSize', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        'The last call of an operation as "QLIB_DIAG_CONTROL_F(2)": the in-arguments after the handle, numbers in decimal,\nbytes in hexadecimal. An empty name asks for the last call of all.\n\nsOperation [in]  \nsCall [out]  \niSize [in]  \n',
+    ),
+    'PHONE_CountLogTexts': (
+        'uint32_t',
+        (
+        ),
+        'Texts that the library has written to the text log, muted or not; of those that are kept the n-th, from 1.\n\n',
+    ),
+    'PHONE_GetLogText': (
+        'uint8_t',
+        (
+            ('iText', 'uint32_t', False, False, 'in', False, None, None),
+            ('sText', 'char', True, False, 'out', False, 'iSize', None),
+            ('iSize', 'uint32_t', False, False, 'in', False, None, None),
+        ),
+        'Texts that the library has written to the text log, muted or not; of those that are kept the n-th, from 1.\n\niText [in]  \nsText [out]  \niSize [in]  \n',
+    ),
 }
