@@ -138,30 +138,27 @@ uint8_t TANDEKOR_LTM_GetCameraIdString(ResourceContext hResourceContext, char* s
 namespace
 {
 
-// What a reply word means on a phone model; the first row that fits counts.
+// What a reply word means; the first row that fits counts.
 constexpr uint32_t anyWord = UINT32_MAX;
 struct SliderRow
 {
-    uint32_t firstModel;
-    uint32_t lastModel;
+    Slider slider;
     uint32_t word;
     uint8_t state;
 };
 constexpr SliderRow sliderStates[] = {
-    {dravok, dravok, 0, 1}, {dravok, dravok, anyWord, 0},  //
-    {52, 52, 3, 1},         {52, 52, 1, 2},
-    {52, 52, 0, 0},        //
-    {52, 52, anyWord, 3},  //
-    {53, 55, 1, 1},         {53, 55, 2, 0},
-    {53, 55, 3, 2},        //
-    {53, 55, anyWord, 3},  //
+    {Slider::Dravok, 0, 1},           {Slider::Dravok, anyWord, 0},                              //
+    {Slider::Kolt52, 3, 1},           {Slider::Kolt52, 1, 2},       {Slider::Kolt52, 0, 0},      //
+    {Slider::Kolt52, anyWord, 3},                                                                //
+    {Slider::Kolt53To55, 1, 1},       {Slider::Kolt53To55, 2, 0},   {Slider::Kolt53To55, 3, 2},  //
+    {Slider::Kolt53To55, anyWord, 3},                                                            //
 };
 
-const SliderRow* FindSliderState(uint32_t model, uint16_t word)
+const SliderRow* FindSliderState(Slider slider, uint16_t word)
 {
     for (const SliderRow& row : sliderStates)
     {
-        if (model >= row.firstModel && model <= row.lastModel && (row.word == word || row.word == anyWord))
+        if (row.slider == slider && (row.word == word || row.word == anyWord))
             return &row;
     }
     return nullptr;
@@ -191,7 +188,7 @@ uint8_t TANDEKOR_FTM_SetKeyPadBackLight(ResourceContext hResourceContext, uint16
             uint32_t model = 0;
             if (!AskPhoneModel(hResourceContext, &model))
                 return false;
-            if (model == dravok && (rowNumber == 5 || rowNumber == 7))
+            if (IsDravok(model) && (rowNumber == 5 || rowNumber == 7))
             {
                 const bool done = TANDEKOR_FTM_SetKeyPadBackLightGPIO(hResourceContext, rowNumber, backLightOn) != 0;
                 Trace(hResourceContext,
@@ -199,7 +196,7 @@ uint8_t TANDEKOR_FTM_SetKeyPadBackLight(ResourceContext hResourceContext, uint16
                       hResourceContext, rowNumber, backLightOn, done ? " - Completed successfully\n" : " - Failure");
                 return done;
             }
-            if (model == dravok)
+            if (IsDravok(model))
                 PrintForOperator("\nDRAVOK not support, only row 5 and 7! ");
 
             if (rowNumber < 1 || rowNumber > 7)
@@ -227,7 +224,7 @@ uint8_t TANDEKOR_FTM_GetSliderState(ResourceContext hResourceContext, uint8_t* s
                 {
                     Trace(hResourceContext, "ZR_GetSliderState() start");
                     uint32_t model = iPhoneModelHint;
-                    if ((iPhoneModelHint < 52 || iPhoneModelHint > 55) && !AskPhoneModel(hResourceContext, &model))
+                    if (!IsKolt(iPhoneModelHint) && !AskPhoneModel(hResourceContext, &model))
                         return uint8_t{0};
 
                     const FormattedText entry("TANDEKOR_FTM_GetSliderState()");
@@ -242,7 +239,7 @@ uint8_t TANDEKOR_FTM_GetSliderState(ResourceContext hResourceContext, uint8_t* s
                     else
                         ftm.NoReply(entry);
 
-                    const SliderRow* row = FindSliderState(model, word);
+                    const SliderRow* row = FindSliderState(PhoneModelOf(model).slider, word);
                     if (row == nullptr)
                     {
                         Trace(hResourceContext, "\tTANDEKOR_FTM_GetSliderState(sState = %c)", *sState);

@@ -75,30 +75,9 @@ constexpr CameraWrite cameraWrites[2][4] = {
     {{bank4, 0x100000, 0}, {bank0, 0x20, 0}, {bank0, 0x4, 1}, {bank1, 0x400, 1}},
 };
 
-// --- where a camera is identified over I2C
+// --- camera identification
 
-struct CameraIdRead
-{
-    uint8_t slaveAddr;
-    uint16_t regAddr;
-    uint8_t dataLen;
-    uint8_t regAddrLen;
-    uint8_t selector;
-    uint8_t idByte;  // which byte of the data is the identification
-};
-
-CameraIdRead CameraIdReadOf(uint8_t camera, uint32_t model)
-{
-    if (camera == 0)
-        return {0x45, 0x222F, 1, 2, 0, 0};
-    if (model >= 12 && model <= 25)
-        return {0x51, 0, 2, 2, 0, 1};
-    if (IsKolt(model))
-        return {0x47, 0x2560, 1, 2, 0, 0};
-    if (model == dravok)
-        return {0x21, 0x0B, 1, 1, 1, 0};
-    return {0, 0, 0, 2, 0, 0};
-}
+constexpr CameraIdRead firstCamera{0x45, 0x222F, 1, 2, 0, 0};
 
 // The pin is enabled before its level goes out. The arguments' text is that of the caller's result lines.
 bool WritePin(const PhoneProcedure& phone, const PinRegisters& registers, uint32_t mask, uint8_t state,
@@ -125,7 +104,7 @@ uint8_t TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, ui
     uint32_t model = 0;
     if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
-    if (model == dravok)
+    if (IsDravok(model))
     {
         if (iRowNumber == outsideKeypadRow)
             return QLIB_FTM_SET_PMIC_DRIVE_LEVEL(hResourceContext, 1, static_cast<uint8_t>(bOnOff * 15));
@@ -174,7 +153,7 @@ uint8_t TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipStat
     uint32_t model = 0;
     if (!phone.CheckConnection() || (bSkipModelRead == 0 && !phone.AskPhoneModel(&model)))
         return 0;
-    if (model != dravok)
+    if (!IsDravok(model))
     {
         PrintForOperator("\nNot support this model");
         return 0;
@@ -189,7 +168,6 @@ uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_
 {
     const PhoneProcedure phone(hResourceContext);
     constexpr char arguments[] = "(Address = %u,  mask = %u, bOnOff = %d)";
-    constexpr uint32_t modelWithExchangedCameras = 54;
     uint32_t model = 0;
     if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
@@ -198,7 +176,7 @@ uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_
         phone.StepTrace(STEP_START, "\tWrong mobile model");
         return 0;
     }
-    if (model == modelWithExchangedCameras && iCameraNum <= 1)
+    if (PhoneModelOf(model).camerasExchanged && iCameraNum <= 1)
         iCameraNum = iCameraNum == 0 ? 1 : 0;
     if (iCameraNum > 1)
     {
@@ -248,7 +226,7 @@ uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t i
             { return QLIB_FTM_CAMERA_SET_SENSOR_ID(hResourceContext, iCamNum, &cameraStatus) != 0 && statusIsGood(); },
             iCamNum, LowWordOf{&cameraStatus}))
         return fail();
-    const CameraIdRead read = CameraIdReadOf(iCamNum, model);
+    const CameraIdRead read = iCamNum == 0 ? firstCamera : PhoneModelOf(model).secondCamera;
     uint8_t data[2] = {};
     const bool identified
         = phone.StepWithoutStart(
