@@ -192,62 +192,87 @@ uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_
     return 1;
 }
 
+namespace
+{
+
+// Selects the camera. Every camera operation has to succeed and leave the status 0.
+bool SelectCamera(const PhoneProcedure& phone, uint8_t iCamNum, uint32_t* cameraStatus)
+{
+    return phone.StepWithoutStart(
+        "QLIB_FTM_CAMERA_SET_SENSOR_ID", "(iCamNum = %d, piCameraStatus = %d)",
+        [&]
+        {
+            return QLIB_FTM_CAMERA_SET_SENSOR_ID(phone.hResourceContext, iCamNum, cameraStatus) != 0
+                   && static_cast<uint16_t>(*cameraStatus) == 0;
+        },
+        iCamNum, LowWordOf{cameraStatus});
+}
+
+bool StartCamera(const PhoneProcedure& phone, uint32_t* cameraStatus)
+{
+    return phone.StepWithoutStart(
+        "QLIB_FTM_CAMERA_START", "(piCameraStatus = %d)",
+        [&]
+        {
+            return QLIB_FTM_CAMERA_START(phone.hResourceContext, cameraStatus) != 0
+                   && static_cast<uint16_t>(*cameraStatus) == 0;
+        },
+        LowWordOf{cameraStatus});
+}
+
+bool StopCamera(const PhoneProcedure& phone, uint32_t* cameraStatus)
+{
+    return phone.StepWithoutStart(
+        "QLIB_FTM_CAMERA_STOP", "(piCameraStatus = %d)",
+        [&] { return QLIB_FTM_CAMERA_STOP(phone.hResourceContext, cameraStatus); }, LowWordOf{cameraStatus});
+}
+
+bool ReadCameraId(const PhoneProcedure& phone, const CameraIdRead& read, uint16_t* piCamId)
+{
+    uint8_t data[2] = {};
+    if (!phone.StepWithoutStart(
+            "TANDEKOR_FTM_I2C_DATA_ACCESS",
+            "(accessType = 0 (READ), slaveAddr = %d, regAddrLen = %d, regAddr = %d, dataLen = %d, data = %d)",
+            [&]
+            {
+                return TANDEKOR_FTM_I2C_DATA_ACCESS2(phone.hResourceContext, 0, read.selector, read.slaveAddr,
+                                                     read.regAddrLen, read.regAddr, read.dataLen, data);
+            },
+            read.slaveAddr, read.regAddrLen, read.regAddr, read.dataLen, data[0]))
+        return false;
+    *piCamId = data[read.idByte];
+    return true;
+}
+
 // The camera is stopped once it was asked to start, also after a failure.
+bool IdentifyCamera(const PhoneProcedure& phone, uint8_t iCamNum, uint32_t model, uint16_t* piCamId)
+{
+    if (iCamNum > 1)
+    {
+        phone.StepTrace(STEP_START, "Parameter iCamId over the range (0-1).");
+        return false;
+    }
+    uint32_t cameraStatus = 4;
+    if (!SelectCamera(phone, iCamNum, &cameraStatus))
+        return false;
+    const CameraIdRead read = iCamNum == 0 ? firstCamera : PhoneModelOf(model).secondCamera;
+    const bool identified = StartCamera(phone, &cameraStatus) && ReadCameraId(phone, read, piCamId);
+    return StopCamera(phone, &cameraStatus) && identified;
+}
+
+}  // namespace
+
 uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum, uint16_t* piCamId)
 {
     const PhoneProcedure phone(hResourceContext);
     uint32_t model = 0;
     if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
-
-    uint32_t cameraStatus = 4;
-    const auto statusIsGood = [&] { return static_cast<uint16_t>(cameraStatus) == 0; };
-    const auto stopCamera = [&]
-    {
-        return phone.StepWithoutStart(
-            "QLIB_FTM_CAMERA_STOP", "(piCameraStatus = %d)",
-            [&] { return QLIB_FTM_CAMERA_STOP(hResourceContext, &cameraStatus); }, LowWordOf{&cameraStatus});
-    };
-    const auto fail = [&]
-    {
-        phone.StepTrace(STEP_FAILURE, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d)", iCamNum);
-        phone.StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
-        return uint8_t{0};
-    };
-
-    if (iCamNum > 1)
-    {
-        phone.StepTrace(STEP_START, "Parameter iCamId over the range (0-1).");
-        return fail();
-    }
-    if (!phone.StepWithoutStart(
-            "QLIB_FTM_CAMERA_SET_SENSOR_ID", "(iCamNum = %d, piCameraStatus = %d)",
-            [&]
-            { return QLIB_FTM_CAMERA_SET_SENSOR_ID(hResourceContext, iCamNum, &cameraStatus) != 0 && statusIsGood(); },
-            iCamNum, LowWordOf{&cameraStatus}))
-        return fail();
-    const CameraIdRead read = iCamNum == 0 ? firstCamera : PhoneModelOf(model).secondCamera;
-    uint8_t data[2] = {};
-    const bool identified
-        = phone.StepWithoutStart(
-              "QLIB_FTM_CAMERA_START", "(piCameraStatus = %d)",
-              [&] { return QLIB_FTM_CAMERA_START(hResourceContext, &cameraStatus) != 0 && statusIsGood(); },
-              LowWordOf{&cameraStatus})
-          && phone.StepWithoutStart(
-              "TANDEKOR_FTM_I2C_DATA_ACCESS",
-              "(accessType = 0 (READ), slaveAddr = %d, regAddrLen = %d, regAddr = %d, dataLen = %d, "
-              "data = %d)",
-              [&]
-              {
-                  return TANDEKOR_FTM_I2C_DATA_ACCESS2(hResourceContext, 0, read.selector, read.slaveAddr,
-                                                       read.regAddrLen, read.regAddr, read.dataLen, data);
-              },
-              read.slaveAddr, read.regAddrLen, read.regAddr, read.dataLen, data[0]);
+    const bool identified = IdentifyCamera(phone, iCamNum, model, piCamId);
     if (identified)
-        *piCamId = data[read.idByte];
-    if (!stopCamera() || !identified)
-        return fail();
-    phone.StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d, iCamId = %d)", iCamNum, *piCamId);
+        phone.StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d, iCamId = %d)", iCamNum, *piCamId);
+    else
+        phone.StepTrace(STEP_FAILURE, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d)", iCamNum);
     phone.StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
-    return 1;
+    return identified;
 }
