@@ -2,6 +2,7 @@
 #include <chrono>
 #include <cstdio>
 
+#include "phone/nv_items.h"
 #include "platform/clock.h"
 #include "simulator/at.h"
 
@@ -169,7 +170,7 @@ std::string PressKeys(const AtCommand& command)
 std::string SerialNumber()
 {
     std::string digits;
-    for (const uint8_t byte : ThePhone().nvItems[550])
+    for (const uint8_t byte : ThePhone().nvItems[tandekor::nv::imei.number])
     {
         digits += static_cast<char>('0' + (byte & 0x0F));
         digits += static_cast<char>('0' + (byte >> 4));

@@ -1,5 +1,7 @@
 // The phone as it leaves the store: what is in it that is not 0 or empty. Files and AT settings stand beside the code
 // that serves them.
+#include "phone/nv_items.h"
+#include "phone/wcdma_bands.h"
 #include "simulator/control.h"
 
 namespace simulator
@@ -8,36 +10,29 @@ namespace simulator
 namespace
 {
 
-// Items by number.
-constexpr uint16_t bluetoothAddress = 447;
-constexpr uint16_t startMode = 453;  // 1 FTM, 0 online
-constexpr uint16_t imei = 550;
-// The receiver of the one WCDMA band: gain, thresholds of both directions, offsets; and the GSM receiver's block.
-constexpr uint16_t gain = 856;
-constexpr uint16_t risingThresholds[] = {519, 859, 860};
-constexpr uint16_t fallingThresholds[] = {520, 861, 862};
-constexpr uint16_t offsets[] = {524, 865, 866};
-constexpr uint16_t gsmReceiver = 2499;
+// The phone knows one WCDMA band.
+constexpr const tandekor::WcdmaBand& band = tandekor::wcdmaBands[0];
 
 }  // namespace
 
 std::map<uint16_t, Bytes> FreshNvItems()
 {
+    using namespace tandekor::nv;
     return {
-        {bluetoothAddress, {0x01, 0x02, 0x03, 0xA0, 0xB0, 0xC0}},
-        {startMode, {0}},
-        {imei, {0x08, 0x4A, 0x09, 0x51, 0x24, 0x30, 0x32, 0x57, 0x81}},
-        {gain, {0x0C, 0x00}},
-        {risingThresholds[0], {0x38, 0xFF}},
-        {risingThresholds[1], {0x60, 0xFF}},
-        {risingThresholds[2], {0x88, 0xFF}},
-        {fallingThresholds[0], {0x24, 0xFF}},
-        {fallingThresholds[1], {0x4C, 0xFF}},
-        {fallingThresholds[2], {0x74, 0xFF}},
-        {offsets[0], {0x78, 0x00}},
-        {offsets[1], {0xF0, 0x00}},
-        {offsets[2], {0x68, 0x01}},
-        {gsmReceiver, Bytes(128)},
+        {bluetoothAddress.number, {0x01, 0x02, 0x03, 0xA0, 0xB0, 0xC0}},
+        {startMode.number, {0}},
+        {imei.number, {0x08, 0x4A, 0x09, 0x51, 0x24, 0x30, 0x32, 0x57, 0x81}},
+        {band.vgaGainOffset, {0x0C, 0x00}},
+        {band.rise[0], {0x38, 0xFF}},
+        {band.rise[1], {0x60, 0xFF}},
+        {band.rise[2], {0x88, 0xFF}},
+        {band.fall[0], {0x24, 0xFF}},
+        {band.fall[1], {0x4C, 0xFF}},
+        {band.fall[2], {0x74, 0xFF}},
+        {band.lnaOffset[0], {0x78, 0x00}},
+        {band.lnaOffset[1], {0xF0, 0x00}},
+        {band.lnaOffset[2], {0x68, 0x01}},
+        {gsmRxRelOffsets.number, Bytes(gsmRxRelOffsets.size)},
     };
 }
 

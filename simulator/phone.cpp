@@ -1,5 +1,6 @@
 #include "simulator/phone.h"
 
+#include "phone/nv_items.h"
 #include "simulator/state.h"
 
 namespace simulator
@@ -7,8 +8,6 @@ namespace simulator
 
 namespace
 {
-
-constexpr uint16_t startModeItem = 453;
 
 // Catches up with the time that has gone by.
 PhoneState& Settled()
@@ -43,7 +42,7 @@ void TakeTime(uint32_t milliseconds)
 void StartPhone()
 {
     PhoneState& state = TheState().phone;
-    const auto startMode = state.phone.nvItems.find(startModeItem);
+    const auto startMode = state.phone.nvItems.find(tandekor::nv::startMode.number);
     const bool ftm = startMode != state.phone.nvItems.end() && startMode->second == Bytes{1};
     state.phone.on = true;
     state.phone.mode = ftm ? Mode::Ftm : Mode::Online;

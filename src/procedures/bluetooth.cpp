@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "phone/nv_items.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
 #include "procedures/procedure_steps.h"
@@ -13,8 +14,7 @@ using namespace tandekor;
 namespace
 {
 
-constexpr uint16_t addressItem = 447;
-constexpr size_t addressSize = 6;
+constexpr size_t addressSize = nv::bluetoothAddress.size;
 constexpr size_t addressTextSize = 2 * addressSize + 1;
 
 // HCI commands: packet type, opcode with its low byte first, parameters. The reset goes without its length byte.
@@ -61,8 +61,8 @@ uint8_t TANDEKOR_BluetoothTestConnect(ResourceContext hResourceContext, char* sz
     if (!phone.CheckConnection()
         || !phone.Step(
             "TANDEKOR_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 6)",
-            [&] { return DIAG_NV_READ_F(hResourceContext, addressItem, address, addressSize); }, addressItem,
-            ItemOf<addressSize>(address)))
+            [&] { return DIAG_NV_READ_F(hResourceContext, nv::bluetoothAddress.number, address, addressSize); },
+            nv::bluetoothAddress.number, ItemOf<addressSize>(address)))
         return 0;
     std::snprintf(szAddr, addressTextSize, "%02X%02X%02X%02X%02X%02X", address[5], address[4], address[3], address[2],
                   address[1], address[0]);

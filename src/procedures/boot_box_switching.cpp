@@ -1,4 +1,5 @@
 // The phone's whole way on and off, by its power and by its mode. These procedures write no start texts.
+#include "phone/nv_items.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
@@ -128,12 +129,14 @@ uint8_t TANDEKOR_BootBox_SwitchMobileOff(ResourceContext hResourceContext, uint1
                                       [&] { return QLIB_DIAG_CONTROL_F(hResourceContext, eMode); });
     };
     return phone.CheckConnection()
-           && phone.StepWithoutStart("TANDEKOR_DIAG_NV_READ_F", "",
-                                     [&] { return DIAG_NV_READ_F(hResourceContext, startModeItem, &startMode, 1); })
+           && phone.StepWithoutStart(
+               "TANDEKOR_DIAG_NV_READ_F", "",
+               [&] { return DIAG_NV_READ_F(hResourceContext, nv::startMode.number, &startMode, nv::startMode.size); })
            && control(goOffline)
            && phone.WaitForOffline(ReadState, "Mobile is in Offline mode", "Mobile not in Offline mode")
-           && phone.StepWithoutStart("TANDEKOR_DIAG_NV_WRITE_F", "",
-                                     [&] { return DIAG_NV_WRITE_F(hResourceContext, startModeItem, &startMode, 1); })
+           && phone.StepWithoutStart(
+               "TANDEKOR_DIAG_NV_WRITE_F", "",
+               [&] { return DIAG_NV_WRITE_F(hResourceContext, nv::startMode.number, &startMode, nv::startMode.size); })
            && phone.StepWithoutStart("SwitchPhoneOff", "", [&] { return phone.BootBox().SwitchPhoneOff(iBootBoxPort); })
            && control(powerDown) && WaitForSilence(phone);
 }

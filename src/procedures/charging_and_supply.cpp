@@ -38,10 +38,6 @@ constexpr uint32_t modeMask = 0x20000000;
 constexpr uint32_t supplyRegister = 0x84000164;
 constexpr uint32_t supplyMask = 0x00080000;
 
-// The three ways of setting the supply.
-bool HasModeBit(uint32_t model) { return (model >= 12 && model <= 15) || (model >= 32 && model <= 36) || model == 40; }
-bool HasSupplyBitOnly(uint32_t model) { return model >= 22 && model <= 25; }
-
 // --- charging
 bool SetChargerSwitch(const PhoneProcedure& phone, uint32_t iChargerSwitchType, uint8_t iChargerSwitchCommand)
 {
@@ -189,16 +185,17 @@ uint8_t TANDEKOR_SupplyVoltageTest(ResourceContext hResourceContext, uint8_t iCa
     uint32_t model = 0;
     if (!AskModelQuietly(phone, &model))
         return 0;
-    if (HasModeBit(model))
+    const Supply supply = PhoneModelOf(model).supply;
+    if (supply == Supply::TwoBits)
     {
         const uint8_t mode = iSupplyMode == 1 || iSupplyMode == 2 ? 1 : 0;
         return ConfigureCameraSwitch(phone, iCameraNum) && SetBiasBit(phone) && SetModeBit(phone, mode)
                && SetBacklight(phone, iLevel) && SetSupplyBit(phone, bOnOff);
     }
-    if (HasSupplyBitOnly(model))
+    if (supply == Supply::OneBit)
         return ConfigureCameraSwitch(phone, iCameraNum) && SetBacklight(phone, iLevel) && SetSupplyBit(phone, bOnOff);
-    // A refused switch is made up for by the camera's own.
-    return IsKolt(model)
+    // If the switch is refused, the camera switch is used instead.
+    return supply == Supply::CameraSwitch
            && (ConfigureCameraSwitch(phone, iCameraNum)
                || phone.CallStep("TANDEKOR_FTM_KOLT_CAMERA_SWITCH", TANDEKOR_FTM_KOLT_CAMERA_SWITCH,
                                  "(iCameraNum = %i)", iCameraNum))
@@ -209,6 +206,8 @@ uint8_t TANDEKOR_SpecialSwitchAccSupplyVoltage(ResourceContext hResourceContext,
 {
     const PhoneProcedure phone(hResourceContext);
     uint32_t model = 0;
-    return phone.CheckConnection() && AskModelQuietly(phone, &model) && (HasModeBit(model) || HasSupplyBitOnly(model))
-           && SetSupplyBit(phone, bOnOff);
+    if (!phone.CheckConnection() || !AskModelQuietly(phone, &model))
+        return 0;
+    const Supply supply = PhoneModelOf(model).supply;
+    return (supply == Supply::TwoBits || supply == Supply::OneBit) && SetSupplyBit(phone, bOnOff);
 }

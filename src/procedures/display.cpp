@@ -14,15 +14,6 @@ namespace
 
 constexpr size_t fileNameSize = 128;
 constexpr uint32_t rawRequestTimeMs = 2000;
-constexpr uint16_t noRequest = 0;
-
-// The response size that a phone model is offered; 0 for a model that has only display 0.
-uint16_t ResponseSizeOf(uint32_t model)
-{
-    if (model == dravok)
-        return 256;
-    return (model >= 32 && model <= 36) || model == 40 ? uint16_t{12} : noRequest;
-}
 
 }  // namespace
 
@@ -39,8 +30,8 @@ uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t 
             msmModel))
         return 0;
 
-    HostWord responseSize(ResponseSizeOf(phoneModel));
-    if (responseSize.Value() == noRequest)
+    HostWord responseSize(PhoneModelOf(phoneModel).displayResponse);
+    if (responseSize.Value() == 0)
     {
         if (uiDsplNum == 0)
             return 1;

@@ -1,7 +1,9 @@
 // Which phone this is: the chip family and the hardware variant, the phone model that follows from both, and the
 // identity of its software.
+#include <algorithm>
 #include <cstring>
 
+#include "phone/phone_models.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
 #include "procedures/procedure_steps.h"
@@ -13,52 +15,23 @@ using namespace tandekor;
 namespace
 {
 
-struct MsmModelRow
-{
-    uint32_t hardwareVersion;
-    uint32_t msmModel;
-};
-
-constexpr MsmModelRow msmModels[] = {
-    {0x40, 1},  {0x403, 1},                    //
-    {0x405, 2}, {0x2040, 2}, {0x120400E1, 2},  //
-    {0x60, 3},  {0x601, 3},                    //
-    {0xC0, 4},  {0xC00, 4},                    //
-};
-
-struct PhoneModelRow
-{
-    uint32_t msmModel;
-    uint32_t firstVersion;
-    uint32_t lastVersion;
-    uint32_t phoneModel;
-};
-
-// The first row that fits counts.
-constexpr PhoneModelRow phoneModels[] = {
-    {1, 0, 1, 23},         {1, 2, 4, 24},   {1, 5, 6, 25},   {1, 8, 9, 13},   {1, 12, 12, 15}, {1, 15, 15, 15},
-    {2, 0, 0, 52},         {2, 1, 1, 53},   {2, 2, 3, 3},    {2, 8, 8, 3},    {2, 7, 7, 2},    {2, 9, 9, 54},
-    {2, 10, 10, 34},       {2, 11, 11, 35}, {2, 12, 12, 55}, {2, 13, 13, 36}, {2, 14, 14, 40}, {3, 12, 12, 62},
-    {3, 0, UINT32_MAX, 1}, {4, 1, 1, 71},   {4, 2, 2, 72},   {4, 3, 3, 73},   {4, 4, 4, 74},   {4, 5, 5, 75},
-    {4, 6, 6, 76},         {4, 7, 7, 77},   {4, 8, 8, 78},
-};
-
 uint32_t MsmModelOf(uint32_t hardwareVersion)
 {
-    for (const MsmModelRow& row : msmModels)
+    for (const ChipVersion& chip : chipVersions)
     {
-        if (row.hardwareVersion == hardwareVersion)
-            return row.msmModel;
+        if (chip.hardwareVersion == hardwareVersion)
+            return chip.msmModel;
     }
     return 0;
 }
 
-uint32_t PhoneModelOf(uint32_t version, uint32_t msmModel)
+uint32_t PhoneModelNumber(uint32_t version, uint32_t msmModel)
 {
-    for (const PhoneModelRow& row : phoneModels)
+    for (const PhoneModel& model : phoneModels)
     {
-        if (row.msmModel == msmModel && version >= row.firstVersion && version <= row.lastVersion)
-            return row.phoneModel;
+        if (model.msmModel == msmModel
+            && std::ranges::any_of(model.versions, [&](const VersionRange& range) { return range.Holds(version); }))
+            return model.number;
     }
     return 0;
 }
@@ -112,7 +85,7 @@ uint8_t TANDEKOR_GetPhoneModel(ResourceContext hResourceContext, uint32_t iVerNu
 {
     if (!PhoneProcedure(hResourceContext).IsKnown())
         return 0;
-    *piPhoneModel = PhoneModelOf(iVerNumber, iMSMModel);
+    *piPhoneModel = PhoneModelNumber(iVerNumber, iMSMModel);
     return 1;
 }
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "phone/nv_items.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
 #include "procedures/phone_procedure.h"
@@ -15,15 +16,9 @@ using namespace tandekor;
 namespace
 {
 
-constexpr uint16_t imeiItem = 550;
-constexpr uint16_t btAddressItem = 447;
-constexpr uint16_t serialNumberItem = 2824;
-constexpr size_t imeiSize = 9;
-constexpr size_t btAddressSize = 6;
-constexpr size_t serialNumberSize = 16;
 constexpr size_t publicKeySize = 260;
 constexpr size_t imeiTextSize = 16;
-constexpr size_t longestIdentitySize = serialNumberSize;
+constexpr size_t longestIdentitySize = nv::serialNumber.size;
 
 constexpr uint8_t imeiLengthByte = 8;
 constexpr uint8_t imeiFirstLowNibble = 0x0A;
@@ -51,13 +46,13 @@ bool SameText(const uint8_t* expected, const uint8_t* actual, size_t most)
 uint8_t TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei)
 {
     const PhoneProcedure phone(hResourceContext);
-    uint8_t item[imeiSize] = {};
+    uint8_t item[nv::imei.size] = {};
     HostWord status;
     if (!phone.CheckConnection()
         || !phone.Step(
             "QLIB_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 9)",
-            [&] { return QLIB_DIAG_NV_READ_F(hResourceContext, imeiItem, item, imeiSize, status.Out()); }, imeiItem,
-            ItemOf<imeiSize>(item)))
+            [&] { return QLIB_DIAG_NV_READ_F(hResourceContext, nv::imei.number, item, nv::imei.size, status.Out()); },
+            nv::imei.number, ItemOf<nv::imei.size>(item)))
         return 0;
     if (status.Value() != 0)
     {
@@ -67,7 +62,7 @@ uint8_t TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei)
     }
     char* digit = sImei;
     *digit++ = static_cast<char>('0' + (item[1] >> 4));
-    for (size_t i = 2; i < imeiSize; ++i)
+    for (size_t i = 2; i < nv::imei.size; ++i)
     {
         *digit++ = static_cast<char>('0' + (item[i] & 0x0F));
         *digit++ = static_cast<char>('0' + (item[i] >> 4));
@@ -82,15 +77,15 @@ uint8_t TANDEKOR_NV_WRITE_IMEI(ResourceContext hResourceContext, const char* sIm
     const PhoneProcedure phone(hResourceContext);
     if (!phone.CheckConnection())
         return 0;
-    uint8_t item[imeiSize] = {imeiLengthByte, static_cast<uint8_t>(Nibbles(sImei[0], 0) | imeiFirstLowNibble)};
-    for (size_t i = 2; i < imeiSize; ++i)
+    uint8_t item[nv::imei.size] = {imeiLengthByte, static_cast<uint8_t>(Nibbles(sImei[0], 0) | imeiFirstLowNibble)};
+    for (size_t i = 2; i < nv::imei.size; ++i)
         item[i] = Nibbles(sImei[2 * i - 2], sImei[2 * i - 3] & 0x0F);
-    uint8_t readBack[imeiSize] = {};
-    if (!phone.WriteItem(imeiItem, item, imeiSize)
+    uint8_t readBack[nv::imei.size] = {};
+    if (!phone.WriteItem(nv::imei.number, item, nv::imei.size)
         || !phone.Step(
             "TANDEKOR_DIAG_NV_READ_F", "(iItemID = %d, pItemData = %s, iLength = 9)",
-            [&] { return DIAG_NV_READ_F(hResourceContext, imeiItem, readBack, imeiSize); }, imeiItem,
-            ItemOf<imeiSize>(readBack)))
+            [&] { return DIAG_NV_READ_F(hResourceContext, nv::imei.number, readBack, nv::imei.size); }, nv::imei.number,
+            ItemOf<nv::imei.size>(readBack)))
         return 0;
     if (!std::equal(std::begin(item), std::end(item), readBack))
     {
@@ -111,10 +106,10 @@ bool Remark(const PhoneProcedure& phone, bool passed, const char* passedText, co
     return passed;
 }
 
-bool ReadIdentity(const PhoneProcedure& phone, uint16_t iItemID, uint8_t* item, size_t size, const char* what)
+bool ReadIdentity(const PhoneProcedure& phone, const nv::Item& id, uint8_t* item, const char* what)
 {
-    std::fill_n(item, size, uint8_t{0});
-    const bool passed = DIAG_NV_READ_F(phone.hResourceContext, iItemID, item, static_cast<int32_t>(size)) != 0;
+    std::fill_n(item, id.size, uint8_t{0});
+    const bool passed = DIAG_NV_READ_F(phone.hResourceContext, id.number, item, id.size) != 0;
     phone.StepTrace(STEP_START, "\tTANDEKOR_DIAG_NV_READ_F() - read %s %s\n", what,
                     passed ? "Completed successfully" : "Failure");
     return passed;
@@ -133,12 +128,13 @@ uint8_t TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8
     uint8_t item[longestIdentitySize] = {};
     const auto same = [&](const uint8_t* expected, size_t size) { return SameText(expected, item, size); };
     phone.StepTrace(STEP_START, "\nTANDEKOR_DIAG_FREEZE_PHONE() - Started\n");
-    if (!ReadIdentity(phone, imeiItem, item, imeiSize, "IMEI")
-        || !Remark(phone, same(pExpectedImei, imeiSize), "\tIMEI Correct\n", "\tIMEI Mismatch\n")
-        || !ReadIdentity(phone, btAddressItem, item, btAddressSize, "BT Address")
-        || !Remark(phone, same(pExpectedBtAddress, btAddressSize), "\tBT Address Correct\n", "\tBT Address Mismatch\n")
-        || !ReadIdentity(phone, serialNumberItem, item, serialNumberSize, "Device Serial Number")
-        || !Remark(phone, same(pExpectedSerial, serialNumberSize), "\tDevice Serial Number Correct\n",
+    if (!ReadIdentity(phone, nv::imei, item, "IMEI")
+        || !Remark(phone, same(pExpectedImei, nv::imei.size), "\tIMEI Correct\n", "\tIMEI Mismatch\n")
+        || !ReadIdentity(phone, nv::bluetoothAddress, item, "BT Address")
+        || !Remark(phone, same(pExpectedBtAddress, nv::bluetoothAddress.size), "\tBT Address Correct\n",
+                   "\tBT Address Mismatch\n")
+        || !ReadIdentity(phone, nv::serialNumber, item, "Device Serial Number")
+        || !Remark(phone, same(pExpectedSerial, nv::serialNumber.size), "\tDevice Serial Number Correct\n",
                    "\tDevice Serial Number Mismatch\n"))
         return 0;
 

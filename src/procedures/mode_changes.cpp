@@ -1,4 +1,5 @@
 // The phone between online and FTM mode: by a reset, which is slow and sure, or by the direct mode command.
+#include "phone/nv_items.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
@@ -44,7 +45,7 @@ bool WaitForRestart(const PhoneProcedure& phone)
 bool DirectModeChange(const PhoneProcedure& phone, bool toFtm)
 {
     uint8_t mode = toFtm ? 1 : 0;
-    return phone.CheckConnection() && phone.WriteItem(startModeItem, &mode, 1)
+    return phone.CheckConnection() && phone.WriteItem(nv::startMode.number, &mode, nv::startMode.size)
            && phone.SendControl(toFtm ? goToFtm : goOnline)
            && phone.Step(
                "QLIB_IsFTM_Mode", "(pbIsFTMMode = %i)", [&] { return QLIB_IsFTM_Mode(phone.hResourceContext, &mode); },
@@ -61,7 +62,8 @@ uint8_t TANDEKOR_ModeChangeResetMobile(ResourceContext hResourceContext, uint8_t
     {
         return phone.Step(
             "TANDEKOR_DIAG_NV_WRITE_F", "(iItemID = 453, pItemData = %u, iLength = 1)",
-            [&] { return DIAG_NV_WRITE_F(hResourceContext, startModeItem, &bFTMMode, 1); }, AddressOf{&bFTMMode});
+            [&] { return DIAG_NV_WRITE_F(hResourceContext, nv::startMode.number, &bFTMMode, nv::startMode.size); },
+            AddressOf{&bFTMMode});
     };
     return phone.CheckConnection() && phone.SendControl(goOffline)
            && phone.WaitForOffline(ReportState, "Mobile in Offline mode", "Mobile not in OFFLINE mode")

@@ -75,30 +75,9 @@ constexpr CameraWrite cameraWrites[2][4] = {
     {{bank4, 0x100000, 0}, {bank0, 0x20, 0}, {bank0, 0x4, 1}, {bank1, 0x400, 1}},
 };
 
-// --- where a camera is identified over I2C
+// --- camera identification
 
-struct CameraIdRead
-{
-    uint8_t slaveAddr;
-    uint16_t regAddr;
-    uint8_t dataLen;
-    uint8_t regAddrLen;
-    uint8_t selector;
-    uint8_t idByte;  // which byte of the data is the identification
-};
-
-CameraIdRead CameraIdReadOf(uint8_t camera, uint32_t model)
-{
-    if (camera == 0)
-        return {0x45, 0x222F, 1, 2, 0, 0};
-    if (model >= 12 && model <= 25)
-        return {0x51, 0, 2, 2, 0, 1};
-    if (IsKolt(model))
-        return {0x47, 0x2560, 1, 2, 0, 0};
-    if (model == dravok)
-        return {0x21, 0x0B, 1, 1, 1, 0};
-    return {0, 0, 0, 2, 0, 0};
-}
+constexpr CameraIdRead firstCamera{0x45, 0x222F, 1, 2, 0, 0};
 
 // The pin is enabled before its level goes out. The arguments' text is that of the caller's result lines.
 bool WritePin(const PhoneProcedure& phone, const PinRegisters& registers, uint32_t mask, uint8_t state,
@@ -125,7 +104,7 @@ uint8_t TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext, ui
     uint32_t model = 0;
     if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
-    if (model == dravok)
+    if (IsDravok(model))
     {
         if (iRowNumber == outsideKeypadRow)
             return QLIB_FTM_SET_PMIC_DRIVE_LEVEL(hResourceContext, 1, static_cast<uint8_t>(bOnOff * 15));
@@ -174,7 +153,7 @@ uint8_t TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipStat
     uint32_t model = 0;
     if (!phone.CheckConnection() || (bSkipModelRead == 0 && !phone.AskPhoneModel(&model)))
         return 0;
-    if (model != dravok)
+    if (!IsDravok(model))
     {
         PrintForOperator("\nNot support this model");
         return 0;
@@ -189,7 +168,6 @@ uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_
 {
     const PhoneProcedure phone(hResourceContext);
     constexpr char arguments[] = "(Address = %u,  mask = %u, bOnOff = %d)";
-    constexpr uint32_t modelWithExchangedCameras = 54;
     uint32_t model = 0;
     if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
@@ -198,7 +176,7 @@ uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_
         phone.StepTrace(STEP_START, "\tWrong mobile model");
         return 0;
     }
-    if (model == modelWithExchangedCameras && iCameraNum <= 1)
+    if (PhoneModelOf(model).camerasExchanged && iCameraNum <= 1)
         iCameraNum = iCameraNum == 0 ? 1 : 0;
     if (iCameraNum > 1)
     {
@@ -214,62 +192,87 @@ uint8_t TANDEKOR_FTM_KOLT_CAMERA_SWITCH(ResourceContext hResourceContext, uint8_
     return 1;
 }
 
+namespace
+{
+
+// Selects the camera. Every camera operation has to succeed and leave the status 0.
+bool SelectCamera(const PhoneProcedure& phone, uint8_t iCamNum, uint32_t* cameraStatus)
+{
+    return phone.StepWithoutStart(
+        "QLIB_FTM_CAMERA_SET_SENSOR_ID", "(iCamNum = %d, piCameraStatus = %d)",
+        [&]
+        {
+            return QLIB_FTM_CAMERA_SET_SENSOR_ID(phone.hResourceContext, iCamNum, cameraStatus) != 0
+                   && static_cast<uint16_t>(*cameraStatus) == 0;
+        },
+        iCamNum, LowWordOf{cameraStatus});
+}
+
+bool StartCamera(const PhoneProcedure& phone, uint32_t* cameraStatus)
+{
+    return phone.StepWithoutStart(
+        "QLIB_FTM_CAMERA_START", "(piCameraStatus = %d)",
+        [&]
+        {
+            return QLIB_FTM_CAMERA_START(phone.hResourceContext, cameraStatus) != 0
+                   && static_cast<uint16_t>(*cameraStatus) == 0;
+        },
+        LowWordOf{cameraStatus});
+}
+
+bool StopCamera(const PhoneProcedure& phone, uint32_t* cameraStatus)
+{
+    return phone.StepWithoutStart(
+        "QLIB_FTM_CAMERA_STOP", "(piCameraStatus = %d)",
+        [&] { return QLIB_FTM_CAMERA_STOP(phone.hResourceContext, cameraStatus); }, LowWordOf{cameraStatus});
+}
+
+bool ReadCameraId(const PhoneProcedure& phone, const CameraIdRead& read, uint16_t* piCamId)
+{
+    uint8_t data[2] = {};
+    if (!phone.StepWithoutStart(
+            "TANDEKOR_FTM_I2C_DATA_ACCESS",
+            "(accessType = 0 (READ), slaveAddr = %d, regAddrLen = %d, regAddr = %d, dataLen = %d, data = %d)",
+            [&]
+            {
+                return TANDEKOR_FTM_I2C_DATA_ACCESS2(phone.hResourceContext, 0, read.selector, read.slaveAddr,
+                                                     read.regAddrLen, read.regAddr, read.dataLen, data);
+            },
+            read.slaveAddr, read.regAddrLen, read.regAddr, read.dataLen, data[0]))
+        return false;
+    *piCamId = data[read.idByte];
+    return true;
+}
+
 // The camera is stopped once it was asked to start, also after a failure.
+bool IdentifyCamera(const PhoneProcedure& phone, uint8_t iCamNum, uint32_t model, uint16_t* piCamId)
+{
+    if (iCamNum > 1)
+    {
+        phone.StepTrace(STEP_START, "Parameter iCamId over the range (0-1).");
+        return false;
+    }
+    uint32_t cameraStatus = 4;
+    if (!SelectCamera(phone, iCamNum, &cameraStatus))
+        return false;
+    const CameraIdRead read = iCamNum == 0 ? firstCamera : PhoneModelOf(model).secondCamera;
+    const bool identified = StartCamera(phone, &cameraStatus) && ReadCameraId(phone, read, piCamId);
+    return StopCamera(phone, &cameraStatus) && identified;
+}
+
+}  // namespace
+
 uint8_t TANDEKOR_FTM_I2C_GetCameraId(ResourceContext hResourceContext, uint8_t iCamNum, uint16_t* piCamId)
 {
     const PhoneProcedure phone(hResourceContext);
     uint32_t model = 0;
     if (!phone.CheckConnection() || !phone.AskPhoneModel(&model))
         return 0;
-
-    uint32_t cameraStatus = 4;
-    const auto statusIsGood = [&] { return static_cast<uint16_t>(cameraStatus) == 0; };
-    const auto stopCamera = [&]
-    {
-        return phone.StepWithoutStart(
-            "QLIB_FTM_CAMERA_STOP", "(piCameraStatus = %d)",
-            [&] { return QLIB_FTM_CAMERA_STOP(hResourceContext, &cameraStatus); }, LowWordOf{&cameraStatus});
-    };
-    const auto fail = [&]
-    {
-        phone.StepTrace(STEP_FAILURE, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d)", iCamNum);
-        phone.StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
-        return uint8_t{0};
-    };
-
-    if (iCamNum > 1)
-    {
-        phone.StepTrace(STEP_START, "Parameter iCamId over the range (0-1).");
-        return fail();
-    }
-    if (!phone.StepWithoutStart(
-            "QLIB_FTM_CAMERA_SET_SENSOR_ID", "(iCamNum = %d, piCameraStatus = %d)",
-            [&]
-            { return QLIB_FTM_CAMERA_SET_SENSOR_ID(hResourceContext, iCamNum, &cameraStatus) != 0 && statusIsGood(); },
-            iCamNum, LowWordOf{&cameraStatus}))
-        return fail();
-    const CameraIdRead read = CameraIdReadOf(iCamNum, model);
-    uint8_t data[2] = {};
-    const bool identified
-        = phone.StepWithoutStart(
-              "QLIB_FTM_CAMERA_START", "(piCameraStatus = %d)",
-              [&] { return QLIB_FTM_CAMERA_START(hResourceContext, &cameraStatus) != 0 && statusIsGood(); },
-              LowWordOf{&cameraStatus})
-          && phone.StepWithoutStart(
-              "TANDEKOR_FTM_I2C_DATA_ACCESS",
-              "(accessType = 0 (READ), slaveAddr = %d, regAddrLen = %d, regAddr = %d, dataLen = %d, "
-              "data = %d)",
-              [&]
-              {
-                  return TANDEKOR_FTM_I2C_DATA_ACCESS2(hResourceContext, 0, read.selector, read.slaveAddr,
-                                                       read.regAddrLen, read.regAddr, read.dataLen, data);
-              },
-              read.slaveAddr, read.regAddrLen, read.regAddr, read.dataLen, data[0]);
+    const bool identified = IdentifyCamera(phone, iCamNum, model, piCamId);
     if (identified)
-        *piCamId = data[read.idByte];
-    if (!stopCamera() || !identified)
-        return fail();
-    phone.StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d, iCamId = %d)", iCamNum, *piCamId);
+        phone.StepTrace(STEP_SUCCESS, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d, iCamId = %d)", iCamNum, *piCamId);
+    else
+        phone.StepTrace(STEP_FAILURE, "TANDEKOR_FTM_I2C_GetCameraId(iCamNum = %d)", iCamNum);
     phone.StepTrace(STEP_START, "\tTANDEKOR_FTM_I2C_GetCameraId - finish");
-    return 1;
+    return identified;
 }

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "phone/nv_items.h"
 #include "platform/clock.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
@@ -17,22 +18,12 @@ namespace
 constexpr uint32_t logMuted = 0;
 constexpr uint32_t logNormal = 2;
 
-constexpr uint16_t scanModeItem1 = 10;
-constexpr uint16_t scanModeItem2 = 441;
-constexpr uint16_t scanModeItem3 = 848;
-constexpr uint16_t lastGoodChannelItem = 1894;
-constexpr uint16_t clearedItem = 945;
-constexpr uint16_t roamingItem = 256;
-constexpr uint16_t secondRoamingItem = 1190;
-constexpr uint16_t autoAnswerItem = 74;
-constexpr int32_t longItemSize = 128;
-
 struct NetworkMode
 {
     uint8_t eNetwMode;
-    uint8_t scanMode1[2];
-    uint8_t scanMode2[3];
-    uint8_t scanMode3[2];
+    uint8_t scanMode1[nv::scanMode1.size];
+    uint8_t scanMode2[nv::scanMode2.size];
+    uint8_t scanMode3[nv::scanMode3.size];
     bool hasChannel;
     uint8_t channelKind;
 };
@@ -189,12 +180,15 @@ uint8_t TANDEKOR_NetworkAndChannelPreselection(ResourceContext hResourceContext,
                                                uint8_t eChannelMode, uint16_t uiChannel)
 {
     const PhoneProcedure phone(hResourceContext);
-    const uint8_t cleared[longItemSize] = {};
+    const uint8_t cleared[nv::clearedBeforeScan.size] = {};
     return phone.CheckConnection()
            && phone.Step(
                "TANDEKOR_DIAG_NV_WRITE_F", "(iItemID = %d, pItemData = %u, iLength = 128)",
-               [&] { return DIAG_NV_WRITE_F(hResourceContext, clearedItem, cleared, longItemSize); }, clearedItem,
-               AddressOf{cleared})
+               [&] {
+                   return DIAG_NV_WRITE_F(hResourceContext, nv::clearedBeforeScan.number, cleared,
+                                          nv::clearedBeforeScan.size);
+               },
+               nv::clearedBeforeScan.number, AddressOf{cleared})
            && phone.CallStep("TANDEKOR_NV_WRITE_NETWORK_SCAN_MODE", NV_WRITE_NETWORK_SCAN_MODE, "(eNetwMode = %c)",
                              eNetwMode)
            && phone.CallStep("TANDEKOR_NV_WRITE_LAST_GOOD_CHANNEL", NV_WRITE_LAST_GOOD_CHANNEL,
@@ -207,9 +201,9 @@ bool tandekor::NV_WRITE_NETWORK_SCAN_MODE(ResourceContext hResourceContext, uint
     if (!phone.CheckConnection())
         return false;
     const NetworkMode* mode = FindNetworkMode(eNetwMode);
-    return mode != nullptr && phone.WriteItem(scanModeItem1, mode->scanMode1, sizeof mode->scanMode1)
-           && phone.WriteItem(scanModeItem2, mode->scanMode2, sizeof mode->scanMode2)
-           && phone.WriteItem(scanModeItem3, mode->scanMode3, sizeof mode->scanMode3);
+    return mode != nullptr && phone.WriteItem(nv::scanMode1.number, mode->scanMode1, nv::scanMode1.size)
+           && phone.WriteItem(nv::scanMode2.number, mode->scanMode2, nv::scanMode2.size)
+           && phone.WriteItem(nv::scanMode3.number, mode->scanMode3, nv::scanMode3.size);
 }
 
 bool tandekor::NV_WRITE_LAST_GOOD_CHANNEL(ResourceContext hResourceContext, uint8_t eNetwMode, uint16_t uiChannel)
@@ -220,7 +214,7 @@ bool tandekor::NV_WRITE_LAST_GOOD_CHANNEL(ResourceContext hResourceContext, uint
     const NetworkMode* mode = FindNetworkMode(eNetwMode);
     if (mode == nullptr)
         return false;
-    uint8_t item[longItemSize] = {};
+    uint8_t item[nv::lastGoodChannel.size] = {};
     if (mode->hasChannel)
     {
         item[0] = 1;
@@ -228,21 +222,21 @@ bool tandekor::NV_WRITE_LAST_GOOD_CHANNEL(ResourceContext hResourceContext, uint
         item[2] = static_cast<uint8_t>(uiChannel >> 8);
         item[3] = mode->channelKind;
     }
-    return phone.WriteItem(lastGoodChannelItem, item, longItemSize);
+    return phone.WriteItem(nv::lastGoodChannel.number, item, nv::lastGoodChannel.size);
 }
 
 uint8_t TANDEKOR_NV_SetRoamingListStatus(ResourceContext hResourceContext, uint8_t bRoamingListOn)
 {
     const PhoneProcedure phone(hResourceContext);
-    const uint8_t roaming[] = {0, static_cast<uint8_t>(bRoamingListOn == 1 ? 1 : 0)};
-    const uint8_t secondRoaming[] = {0x80, 0x00};
-    return phone.CheckConnection() && phone.WriteItem(roamingItem, roaming, sizeof roaming)
-           && phone.WriteItem(secondRoamingItem, secondRoaming, sizeof secondRoaming);
+    const uint8_t roaming[nv::roaming.size] = {0, static_cast<uint8_t>(bRoamingListOn == 1 ? 1 : 0)};
+    const uint8_t secondRoaming[nv::secondRoaming.size] = {0x80, 0x00};
+    return phone.CheckConnection() && phone.WriteItem(nv::roaming.number, roaming, nv::roaming.size)
+           && phone.WriteItem(nv::secondRoaming.number, secondRoaming, nv::secondRoaming.size);
 }
 
 uint8_t TANDEKOR_NVSetAutoAnswerStatus(ResourceContext hResourceContext, uint8_t bAutoAnswerOn)
 {
     const PhoneProcedure phone(hResourceContext);
     const uint8_t autoAnswer = bAutoAnswerOn == 1 ? 1 : 0;
-    return phone.CheckConnection() && phone.WriteItem(autoAnswerItem, &autoAnswer, 1);
+    return phone.CheckConnection() && phone.WriteItem(nv::autoAnswer.number, &autoAnswer, nv::autoAnswer.size);
 }

@@ -1,4 +1,6 @@
 // One measurement of the receiver for an application that adjusts it, and the NV functions of a WCDMA band.
+#include "phone/nv_items.h"
+#include "phone/wcdma_bands.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
 #include "procedures/procedure_steps.h"
@@ -9,36 +11,10 @@ using namespace tandekor;
 namespace
 {
 
-constexpr uint16_t gsmRxRelOffsetsItem = 2499;
-constexpr int32_t gsmRxRelOffsetsSize = 128;
-constexpr int32_t offsetSize = 2;
-constexpr int32_t vsFreqSize = 16;
-
-struct WcdmaBand
-{
-    uint16_t eNvBand;
-    uint16_t vgaGainOffset;
-    uint16_t vgaGainVsFreq;
-    uint16_t fall[3];
-    uint16_t rise[3];
-};
-constexpr WcdmaBand wcdmaBands[] = {
-    {4, 856, 857, {520, 861, 862}, {519, 859, 860}},
-    {5, 1143, 1144, {1164, 1148, 1149}, {1163, 1146, 1147}},
-    {6, 1814, 1815, {1835, 1819, 1820}, {1834, 1817, 1818}},
-};
-
 // Null without a phone, or for a band that is not known.
 const WcdmaBand* ConnectedBand(ResourceContext hResourceContext, uint16_t eNvBand)
 {
-    if (!PhoneProcedure(hResourceContext).CheckConnection())
-        return nullptr;
-    for (const WcdmaBand& band : wcdmaBands)
-    {
-        if (band.eNvBand == eNvBand)
-            return &band;
-    }
-    return nullptr;
+    return PhoneProcedure(hResourceContext).CheckConnection() ? FindWcdmaBand(eNvBand) : nullptr;
 }
 
 }  // namespace
@@ -47,8 +23,8 @@ uint8_t TANDEKOR_RX_GSM_Adjust(ResourceContext hResourceContext, uint8_t* cBin3,
                                uint8_t iSlotNum, int16_t iRxFunction, uint8_t iLNArange, void* piRSSI)
 {
     const PhoneProcedure phone(hResourceContext);
-    return phone.CheckConnection() && phone.ReadItem(gsmRxRelOffsetsItem, cBin3, gsmRxRelOffsetsSize) && phone.TxOff()
-           && phone.SetMode(eNewMode) && phone.SetChannel(iChannel)
+    return phone.CheckConnection() && phone.ReadItem(nv::gsmRxRelOffsets.number, cBin3, nv::gsmRxRelOffsets.size)
+           && phone.TxOff() && phone.SetMode(eNewMode) && phone.SetChannel(iChannel)
            && phone.CallStep("QLIB_FTM_SET_RX_BURST", QLIB_FTM_SET_RX_BURST, "(iSlotNum = %c, iRxFunction = %d)",
                              iSlotNum, iRxFunction)
            && phone.SetLnaRange(iLNArange)
@@ -111,19 +87,19 @@ bool tandekor::NV_WRITE_WCDMA_VGA_GAIN(ResourceContext hResourceContext, uint16_
     if (band == nullptr)
         return false;
     const uint8_t offset[] = {static_cast<uint8_t>(iOffset), static_cast<uint8_t>(iOffset >> 8)};
-    return phone.WriteItem(band->vgaGainOffset, offset, offsetSize)
-           && (piVsFreq == nullptr || phone.WriteItem(band->vgaGainVsFreq, piVsFreq, vsFreqSize));
+    return phone.WriteItem(band->vgaGainOffset, offset, bandValueSize)
+           && (piVsFreq == nullptr || phone.WriteItem(band->vgaGainVsFreq, piVsFreq, bandTableSize));
 }
 
 namespace
 {
 
-// Nothing is read behind a threshold that cannot be read.
+// Stops at the first threshold that cannot be read.
 bool ReadThresholds(const PhoneProcedure& phone, const uint16_t (&items)[3], uint8_t* first, uint8_t* second,
                     uint8_t* third)
 {
-    return phone.ReadItem(items[0], first, offsetSize) && phone.ReadItem(items[1], second, offsetSize)
-           && phone.ReadItem(items[2], third, offsetSize);
+    return phone.ReadItem(items[0], first, bandValueSize) && phone.ReadItem(items[1], second, bandValueSize)
+           && phone.ReadItem(items[2], third, bandValueSize);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The storing of a whole receiver calibration, in one batch of NV writes.
+#include "phone/wcdma_bands.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
 #include "procedures/procedure_steps.h"
@@ -11,8 +12,6 @@ namespace
 
 constexpr size_t shortRangeSize = 16;  // GSM 900 and 850
 constexpr size_t longRangeSize = 32;   // GSM 1900 and 1800
-constexpr size_t vsFreqSize = 16;
-constexpr int32_t offsetSize = 2;
 
 struct RangeItem
 {
@@ -27,25 +26,13 @@ constexpr RangeItem rangeItems[16] = {
     {1102, 16}, {1103, 16}, {1104, 16}, {1105, 16},  // GSM 850
 };
 
-struct LnaItems
-{
-    uint8_t eNvBand;
-    uint16_t offset[3];
-    uint16_t vsFreq[3];
-};
-constexpr LnaItems lnaBands[] = {
-    {4, {524, 865, 866}, {525, 867, 868}},
-    {5, {1168, 1152, 1153}, {1169, 1154, 1155}},
-    {6, {1839, 1823, 1824}, {1840, 1825, 1826}},
-};
-
 using ShortRange = ItemOf<shortRangeSize>;
 using LongRange = ItemOf<longRangeSize>;
-using VsFreq = ItemOf<vsFreqSize>;
+using VsFreq = ItemOf<bandTableSize>;
 
 }  // namespace
 
-// A failure in front of the flush leaves in the host library's queue what it has taken so far.
+// A failure before the flush leaves in the host library's queue what it has taken so far.
 uint8_t TANDEKOR_Write_RX_Adjustment_Values(
     ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
     uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
@@ -123,18 +110,15 @@ bool tandekor::NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8
         return false;
     const int16_t offsets[] = {iOffset1, iOffset2, iOffset3};
     const uint8_t* tables[] = {piVsFreq1, piVsFreq2, piVsFreq3};
-    for (const LnaItems& band : lnaBands)
+    const WcdmaBand* band = FindWcdmaBand(eNvBand);
+    if (band == nullptr)
+        return false;
+    for (int i = 0; i < 3; ++i)
     {
-        if (band.eNvBand != eNvBand)
-            continue;
-        for (int i = 0; i < 3; ++i)
-        {
-            const uint8_t offset[] = {static_cast<uint8_t>(offsets[i]), static_cast<uint8_t>(offsets[i] >> 8)};
-            if (!phone.WriteItem(band.offset[i], offset, offsetSize)
-                || (tables[i] != nullptr && !phone.WriteItem(band.vsFreq[i], tables[i], vsFreqSize)))
-                return false;
-        }
-        return true;
+        const uint8_t offset[] = {static_cast<uint8_t>(offsets[i]), static_cast<uint8_t>(offsets[i] >> 8)};
+        if (!phone.WriteItem(band->lnaOffset[i], offset, bandValueSize)
+            || (tables[i] != nullptr && !phone.WriteItem(band->lnaVsFreq[i], tables[i], bandTableSize)))
+            return false;
     }
-    return false;
+    return true;
 }

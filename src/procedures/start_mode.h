@@ -6,9 +6,6 @@
 namespace tandekor
 {
 
-// NV item of one byte: the mode in which the phone starts, 1 for FTM and 0 for online.
-constexpr uint16_t startModeItem = 453;
-
 // Modes that QLIB_DIAG_CONTROL_F takes.
 constexpr uint32_t goOffline = 0;
 constexpr uint32_t reset = 2;  // the phone restarts in the mode of the start mode item

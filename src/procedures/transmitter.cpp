@@ -1,4 +1,5 @@
 // The transmitter through its fixed sequences, and averages of ADC readings by phone model.
+#include "phone/phone_models.h"
 #include "platform/qmsl.h"
 #include "procedures/phone_procedure.h"
 #include "procedures/procedure_steps.h"
@@ -16,29 +17,6 @@ constexpr char paBurstArguments[]
     = "(iSlotNum = %c, iDataSource = %d, iTSCindex = %c,\t iNumBursts = %d, bIsInfiniteDuration = %c)";
 
 constexpr double notMeasured = 255.0;
-
-// How the ADC of a phone model is read: by the sum of many readings, or by single ones.
-enum class AdcReading
-{
-    Unknown,
-    Summed,
-    Single
-};
-
-AdcReading AdcReadingOf(uint32_t model)
-{
-    for (const uint32_t known : {13, 14, 15, 23, 24, 25, 33, 34, 35, 36, 40, 52, 53, 55})
-    {
-        if (model == known)
-            return AdcReading::Summed;
-    }
-    for (const uint32_t known : {61, 62, 63, 64, 65, 74, 75, 76, 77})
-    {
-        if (model == known)
-            return AdcReading::Single;
-    }
-    return AdcReading::Unknown;
-}
 
 // ADC types.
 constexpr uint16_t firstAdc = 0;
@@ -164,10 +142,10 @@ uint8_t TANDEKOR_CheckDACValues(ResourceContext hResourceContext, uint16_t iAver
     uint32_t model = 0;
     if (!phone.AskPhoneModel(&model))
         return 0;
-    const AdcReading reading = AdcReadingOf(model);
-    if (reading == AdcReading::Unknown)
+    const Adc adc = PhoneModelOf(model).adc;
+    if (adc == Adc::Unknown)
         return 0;
-    const bool summed = reading == AdcReading::Summed;
+    const bool summed = adc == Adc::Summed;
 
     if (!(summed ? AverageSummed(phone, firstAdc, iAverageCount, pdFirstValue)
                  : AverageSingle(phone, firstAdc, iAverageCount, true, pdFirstValue)))
