@@ -1,4 +1,4 @@
-#include "tests/at/buffered_call.h"
+#include "tests/at/at_test.h"
 
 namespace tandekor::test
 {
@@ -11,25 +11,25 @@ constexpr size_t most = 512;
 constexpr size_t rowSize = 1024;
 
 template <typename List>
-BufferedCall ListWith(List* list, int filter)
+Call ListWith(List* list, int filter)
 {
     return With(list, {filter, Out{most * 4}, Out{most * 4}, Out{most * 4}, Out{most * 4}, Out{most * rowSize}});
 }
 
-const BufferedCall cmgl = ListWith(TANDEKOR_AT_CMGL, 4);
-const BufferedCall smgl = ListWith(TANDEKOR_AT_SMGL, 4);
-const BufferedCall cmgr = With(TANDEKOR_AT_Set_CMGR, {7, 10, Out{2}, Out{1}, Out{10}});
-const BufferedCall smgr = With(TANDEKOR_AT_Set_SMGR, {7, 200, Out{2}, Out{1}, Out{200}});
-const BufferedCall cmgrOfNothing = With(TANDEKOR_AT_Set_CMGR, {7, 0});
+const Call cmgl = ListWith(TANDEKOR_AT_CMGL, 4);
+const Call smgl = ListWith(TANDEKOR_AT_SMGL, 4);
+const Call cmgr = With(TANDEKOR_AT_Set_CMGR, {7, 10, Out{2}, Out{1}, Out{10}});
+const Call smgr = With(TANDEKOR_AT_Set_SMGR, {7, 200, Out{2}, Out{1}, Out{200}});
+const Call cmgrOfNothing = With(TANDEKOR_AT_Set_CMGR, {7, 0});
 
-const std::vector<SentCommand> lists = {
-    {cmgl, "AT+CMGL=4", "TANDEKOR_AT_CMGL()"},
-    {ListWith(TANDEKOR_AT_CMGL, 255), "AT+CMGL=0", "TANDEKOR_AT_CMGL()"},
-    {ListWith(TANDEKOR_AT_SMGL, 12), "AT^SMGL=1", "TANDEKOR_AT_SMGL()"},
-    {ListWith(TANDEKOR_AT_SMGL, 255), "AT^SMGL=0", "TANDEKOR_AT_SMGL()"},
-};
+const uint32_t noNumber = UINT32_MAX;
+const std::vector<Bytes> nothing = {{}, {}, {}, {}, {}, U32(0)};
 
 const std::vector<SentCommand> commands = {
+    {cmgl, "AT+CMGL=4", "TANDEKOR_AT_CMGL()", 3000, nothing},
+    {ListWith(TANDEKOR_AT_CMGL, 255), "AT+CMGL=0", "TANDEKOR_AT_CMGL()", 3000, nothing},
+    {ListWith(TANDEKOR_AT_SMGL, 12), "AT^SMGL=1", "TANDEKOR_AT_SMGL()", 3000, nothing},
+    {ListWith(TANDEKOR_AT_SMGL, 255), "AT^SMGL=0", "TANDEKOR_AT_SMGL()", 3000, nothing},
     {cmgr, "AT+CMGR=7", "TANDEKOR_AT_Set_CMGR()"},
     {With(TANDEKOR_AT_Set_CMGR, {10, 1}), "AT+CMGR=10", "TANDEKOR_AT_Set_CMGR()"},
     {With(TANDEKOR_AT_Set_CMGR, {100, 1}), "AT+CMGR=100", "TANDEKOR_AT_Set_CMGR()"},
@@ -52,10 +52,7 @@ Bytes Rows(const std::vector<std::string>& texts)
     return rows;
 }
 
-const uint32_t noNumber = UINT32_MAX;
-const std::vector<Bytes> nothing = {{}, {}, {}, {}, {}, U32(0)};
-
-const std::vector<ReadReply> listReplies = {
+const std::vector<ReadReply> replies = {
     {cmgl,
      Reply("AT+CMGL=4", "+CMGL: 3,1,,25\r\n07914912"),
      {U32(3), U32(1), U32(noNumber), U32(25), Rows({"07914912"}), U32(1)}},
@@ -77,10 +74,8 @@ const std::vector<ReadReply> listReplies = {
     {cmgl, "", nothing},
     {cmgl, "AT+CMGL=4\r\r\n+CMGL: 3,1,,", nothing},
     {cmgl, "AT+CMGL=4\r\r\n+CMGL: 3,1,,25\r\nAB", {U32(3), U32(1), U32(noNumber), U32(25), Rows({"AB"}), U32(1)}},
-};
 
-// The text begins behind the place of a one-digit length, whatever the length.
-const std::vector<ReadReply> readReplies = {
+    // The text begins behind the place of a one-digit length, whatever the length.
     {smgr, Reply("AT^SMGR=7", "^SMGR: 1,,9\r\n0791491234"), {U16(9), {'1'}, Text("07914912")}},
     {cmgr, Reply("", "+CMGR: 2,,25\r\n0791491234"), {U16(25), {'2'}, Text("\n07914912")}},
     {cmgr, Reply("", "+CMGR: 1,,125\r\n0791491234"), {U16(125), {'1'}, Text("\r\n0791491")}},
@@ -99,33 +94,20 @@ const std::vector<ReadReply> readReplies = {
 
 }  // namespace
 
-class AtMessagesTest : public BufferedAtTest
+AtTable Messages()
 {
-};
-
-TEST_F(AtMessagesTest, EveryCommandIsLoggedAndThenSentOnce)
-{
-    ExpectSent(lists, nothing);
-    ExpectSent(commands);
+    return {commands,
+            replies,
+            {Dense("\r", "\n+: 1,1,,1\r\n\r"), Dense("\r", "\n^: 1,1,,1\r\n\r"), Dense("\r\n+CMGR: 1,,4000\r\n", "x")}};
 }
 
-TEST_F(AtMessagesTest, ListsAreSpreadOverTheCallersArrays) { ExpectRead(listReplies); }
-
-TEST_F(AtMessagesTest, MessagesAreReadByTheFirstComma) { ExpectRead(readReplies); }
-
-TEST_F(AtMessagesTest, NoReplyLeadsAReaderOutOfItsBuffers)
-{
-    const std::vector<std::string> dense
-        = {Dense("\r", "\n+: 1,1,,1\r\n\r"), Dense("\r", "\n^: 1,1,,1\r\n\r"), Dense("\r\n+CMGR: 1,,4000\r\n", "x")};
-    ExpectGuardsHold(lists, listReplies, dense);
-    ExpectGuardsHold(commands, readReplies, dense);
-}
+using AtMessagesTest = AtTest;
 
 // A reply that comes with a failed exchange is read all the same.
 TEST_F(AtMessagesTest, MessageOfAFailedExchangeIsRead)
 {
     FailsToReply(Ascii(Reply("", "+CMGR: 1,,9\r\n0791491234")));
-    const BufferedResult call = cmgr(handle);
+    const CallResult call = cmgr(handle);
     EXPECT_EQ(call.result, 0);
     const std::vector<Bytes> expected = {U16(9), {'1'}, Hex("30 37 39 31 34 39 31 32 00 55"), {0x55, 0x55}};
     EXPECT_EQ(call.outs, expected);
@@ -135,7 +117,7 @@ TEST_F(AtMessagesTest, MessageOfAFailedExchangeIsRead)
 TEST_F(AtMessagesTest, TextOfAShortReplyEndsWithIt)
 {
     Replies("\r\n+CMGR: 1,,99\r\nOK");
-    const BufferedResult call = smgr(handle);
+    const CallResult call = smgr(handle);
     Bytes text = Text("\nOK");
     text.resize(call.outs[2].size(), 0x55);
     EXPECT_EQ(call.outs[2], text);

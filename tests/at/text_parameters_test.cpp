@@ -1,4 +1,4 @@
-#include "tests/at/buffered_call.h"
+#include "tests/at/at_test.h"
 
 namespace tandekor::test
 {
@@ -10,24 +10,24 @@ const std::string password("\1\2\3\4");
 const std::string noPassword("-xyz");
 constexpr size_t most = 1366;
 
-const BufferedCall getClck = With(TANDEKOR_AT_Get_CLCK, {"SCX", Out{most}, Out{most * 4}});
-const BufferedCall getSlck = With(TANDEKOR_AT_Get_SLCK, {"PN", Out{most}, Out{most * 4}});
-const BufferedCall getCpin = With(TANDEKOR_AT_Get_CPIN, {Out{16}});
-const BufferedCall getCcfc
+const Call getClck = With(TANDEKOR_AT_Get_CLCK, {"SCX", Out{most}, Out{most * 4}});
+const Call getSlck = With(TANDEKOR_AT_Get_SLCK, {"PN", Out{most}, Out{most * 4}});
+const Call getCpin = With(TANDEKOR_AT_Get_CPIN, {Out{16}});
+const Call getCcfc
     = With(TANDEKOR_AT_Get_CCFC, {12, Out{600 * 4}, Out{600 * 4}, Out{600 * 12}, Out{600 * 4}, Out{600 * 4}});
-const BufferedCall getCsca = With(TANDEKOR_AT_Get_CSCA, {Out{50}, Out{50}});
-const BufferedCall getCscb = With(TANDEKOR_AT_Get_CSCB, {Out{1}, Out{4097}, Out{4097}});
-const BufferedCall getCscs = With(TANDEKOR_AT_Get_CSCS, {Out{16}});
+const Call getCsca = With(TANDEKOR_AT_Get_CSCA, {Out{50}, Out{50}});
+const Call getCscb = With(TANDEKOR_AT_Get_CSCB, {Out{1}, Out{4097}, Out{4097}});
+const Call getCscs = With(TANDEKOR_AT_Get_CSCS, {Out{16}});
 
-BufferedCall SetCcwa(int n, int mode, int classNumber)
+Call SetCcwa(int n, int mode, int classNumber)
 {
     return With(TANDEKOR_AT_Set_CCWA, {n, mode, classNumber, Out{most * 4}, Out{most * 4}});
 }
-BufferedCall Crsm(int command, int fileId, int p1, int p2, int p3, const std::string& data)
+Call Crsm(int command, int fileId, int p1, int p2, int p3, const std::string& data)
 {
     return With(TANDEKOR_AT_CRSM, {command, fileId, p1, p2, p3, data, Out{4}, Out{4}, Out{4096}});
 }
-const BufferedCall crsmStatus = Crsm(242, -1, 0, 0, 0, "-");
+const Call crsmStatus = Crsm(242, -1, 0, 0, 0, "-");
 
 const std::vector<SentCommand> commands = {
     {With(TANDEKOR_AT_Set_CKPD, {"123", 5, 0xFFFF}), "AT+CKPD=123,5",
@@ -150,60 +150,66 @@ const std::vector<ReadReply> replies = {
 
 }  // namespace
 
-class AtTextParametersTest : public BufferedAtTest
+AtTable TextParameters()
 {
-};
-
-TEST_F(AtTextParametersTest, EveryCommandIsLoggedAndThenSentOnce) { ExpectSent(commands); }
-
-TEST_F(AtTextParametersTest, RepliesAreReadFieldByField) { ExpectRead(replies); }
-
-TEST_F(AtTextParametersTest, NoReplyLeadsAReaderOutOfItsBuffers)
-{
-    ExpectGuardsHold(commands, replies,
-                     {Dense("\r\n+CLCK", ": 1"), Dense("\r\n+CLCK", ": 1,"), Dense("\n", "0x,+,1,1,"),
-                      Dense("\r\n+CCWA:", "1,x "), Dense("AT+CRSM=242  144,0,\"", "x")});
+    return {commands,
+            replies,
+            {Dense("\r\n+CLCK", ": 1"), Dense("\r\n+CLCK", ": 1,"), Dense("\n", "0x,+,1,1,"),
+             Dense("\r\n+CCWA:", "1,x "), Dense("AT+CRSM=242  144,0,\"", "x")}};
 }
+
+using AtTextParametersTest = AtTest;
 
 // A command that outgrows the 4096 bytes of a request is logged, but not sent.
 TEST_F(AtTextParametersTest, TextsThatOutgrowTheRequestAreNotSent)
 {
-    const auto longest = [](size_t room, char fill = '5') { return std::string(4096 - 2 - room, fill); };
-    const auto plusOne = [](const std::string& text) { return text + text.back(); };
-    const std::string keys = longest(8);
-    const std::string pin = longest(10);
-    const std::string centre = longest(10);
-    const std::string identifiers = longest(12);
-    const std::string schemes = longest(15, '\5');
-    const std::string data = longest(20, '\5');
     const struct
     {
-        BufferedCall fits, outgrows;
+        const char* log;
+        size_t longest;
+        std::function<Call(const std::string&)> with;
+        char fill = '5';
     } cases[] = {
-        {With(TANDEKOR_AT_Set_CKPD, {keys, 0xFFFF, 0}), With(TANDEKOR_AT_Set_CKPD, {plusOne(keys), 0xFFFF, 0})},
-        {With(TANDEKOR_AT_Set_CPIN, {pin, "-"}), With(TANDEKOR_AT_Set_CPIN, {plusOne(pin), "-"})},
-        {With(TANDEKOR_AT_Set_CSCA, {centre, "-"}), With(TANDEKOR_AT_Set_CSCA, {plusOne(centre), "-"})},
-        {With(TANDEKOR_AT_Set_CSCB, {1, identifiers, "-"}), With(TANDEKOR_AT_Set_CSCB, {1, plusOne(identifiers), "-"})},
-        {With(TANDEKOR_AT_Set_CSCB, {1, "", schemes}), With(TANDEKOR_AT_Set_CSCB, {1, "", plusOne(schemes)})},
-        {Crsm(1, 2, 3, 4, 5, data), Crsm(1, 2, 3, 4, 5, plusOne(data))},
+        {"TANDEKOR_AT_Set_CKPD(Keys: 5", 4086,
+         [](auto text) {
+             return With(TANDEKOR_AT_Set_CKPD, {text, 0xFFFF, 0});
+         }},
+        {"TANDEKOR_AT_Set_CPIN()", 4084,
+         [](auto text) {
+             return With(TANDEKOR_AT_Set_CPIN, {text, "-"});
+         }},
+        {"TANDEKOR_AT_Set_CSCA()", 4084,
+         [](auto text) {
+             return With(TANDEKOR_AT_Set_CSCA, {text, "-"});
+         }},
+        {"TANDEKOR_AT_Set_CSCB()", 4082,
+         [](auto text) {
+             return With(TANDEKOR_AT_Set_CSCB, {1, text, "-"});
+         }},
+        {"TANDEKOR_AT_Set_CSCB()", 4079,
+         [](auto text) {
+             return With(TANDEKOR_AT_Set_CSCB, {1, "", text});
+         },
+         '\5'},
+        {"TANDEKOR_AT_CRSM()", 4074, [](auto text) { return Crsm(1, 2, 3, 4, 5, text); }, '\5'},
     };
     for (const auto& row : cases)
     {
-        simulator::ForgetLog();
-        simulator::ForgetCalls();
-        Replies("OK");
-        EXPECT_EQ(row.fits(handle).result, 1);
-        EXPECT_EQ(simulator::Exchanges().back().request.size(), 4096U);
-        const std::string logged = Log().front().substr(0, 25);
-
-        simulator::ForgetLog();
-        simulator::ForgetCalls();
-        const BufferedResult call = row.outgrows(handle);
-        EXPECT_EQ(call.result, 0);
-        EXPECT_EQ(call.outs.back(), Bytes(2, 0x55));
-        EXPECT_TRUE(simulator::Calls().empty());
-        ASSERT_EQ(Log().size(), 1U);
-        EXPECT_EQ(Log().front().substr(0, 25), logged);
+        for (const size_t length : {row.longest, row.longest + 1})
+        {
+            SCOPED_TRACE(row.log + std::to_string(length));
+            simulator::ForgetLog();
+            simulator::ForgetCalls();
+            const bool fits = length == row.longest;
+            if (fits)
+                Replies("OK");
+            const CallResult call = row.with(std::string(length, row.fill))(handle);
+            EXPECT_EQ(call.result, fits ? 1 : 0);
+            EXPECT_EQ(call.written.back(), fits);
+            EXPECT_EQ(simulator::Exchanges().size(), fits ? 1U : 0U);
+            EXPECT_TRUE(!fits || simulator::Exchanges().back().request.size() == 4096);
+            EXPECT_TRUE(Log().size() == 1 && Log()[0].starts_with(row.log));
+        }
     }
     EXPECT_EQ(With(TANDEKOR_AT_Set_CKPD, {std::string(20000, '5'), 1, 1})(handle).result, 0);
     EXPECT_EQ(Log().back(), "TANDEKOR_AT_Set_CKPD(Keys: " + std::string(12291 - 27, '5'));

@@ -1,5 +1,5 @@
 #include "procedures/upload_callback.h"
-#include "tests/frame/guarded_call.h"
+#include "tests/support/bench_test.h"
 
 namespace tandekor::test
 {
@@ -16,7 +16,8 @@ protected:
     static bool Knows(ResourceContext resourceContext)
     {
         simulator::ForgetLog();
-        Call(TANDEKOR_AT_CHUP)(resourceContext);
+        uint16_t status = 0;
+        TANDEKOR_AT_CHUP(resourceContext, &status);
         return !Log().empty();
     }
 

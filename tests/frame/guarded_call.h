@@ -67,8 +67,4 @@ GuardedCall Call(Result (*function)(ResourceContext, Parameters...), const std::
     };
 }
 
-// The functions of a family, each at least once, from the table of its requests.
-std::vector<GuardedCall> AtSingleValueCalls();
-std::vector<GuardedCall> FtmCalls();
-
 }  // namespace tandekor::test

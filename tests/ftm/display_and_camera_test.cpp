@@ -8,12 +8,6 @@ namespace tandekor::test
 namespace
 {
 
-GuardedCall Show(uint8_t (*function)(ResourceContext, char*), const Bytes& buffer)
-{
-    return CallOn(
-        {}, [=](auto handle, const auto&) { return function(handle, reinterpret_cast<char*>(Bytes(buffer).data())); });
-}
-
 // A name with bytes behind its NUL, and one that fills the buffer.
 const Bytes shortName = []
 {
@@ -24,40 +18,40 @@ const Bytes shortName = []
 }();
 const Bytes fullName(128, 'n');
 
-GuardedCall CameraId(uint8_t (*function)(ResourceContext, char*), uint8_t before = 0x55)
+Call CameraId(uint8_t (*function)(ResourceContext, char*), uint8_t before = 0x55)
 {
-    return CallOn({Bytes(25, before)}, [=](auto handle, const auto& buffers)
-                  { return function(handle, reinterpret_cast<char*>(buffers[0])); });
+    return With(function, {Bytes(25, before)});
 }
-const GuardedCall ftmId = CameraId(TANDEKOR_FTM_GetCameraIDString), ltmId = CameraId(TANDEKOR_LTM_GetCameraIdString);
+const Call ftmId = CameraId(TANDEKOR_FTM_GetCameraIDString), ltmId = CameraId(TANDEKOR_LTM_GetCameraIdString);
 
-const GuardedCall flash = Call(TANDEKOR_FTM_TEST_CAMERA_FLASH, {1, 255});
+const Call flash = With(TANDEKOR_FTM_TEST_CAMERA_FLASH, {1, 255});
 
 }  // namespace
 
 std::vector<FtmRequest> DisplayAndCameraRequests()
 {
     return {
-        {Show(TANDEKOR_FTM_DISPLAY_IMAGE, shortName), "4B 0B 00 80 17 00 80 00 0C 00 " + ToHex(shortName),
+        {ReadOnly(With(TANDEKOR_FTM_DISPLAY_IMAGE, {shortName})), "4B 0B 00 80 17 00 80 00 0C 00 " + ToHex(shortName),
          "TANDEKOR_FTM_DISPLAY_IMAGE(sFileName[128] = 'p')", 0, 3000, "TANDEKOR_FTM_DISPLAY_IMAGE()"},
-        {Show(TANDEKOR_FTM_DISPLAY_IMAGE_24BIT, fullName), "4B 0B 00 80 C9 00 80 00 0C 00 " + ToHex(fullName),
+        {ReadOnly(With(TANDEKOR_FTM_DISPLAY_IMAGE_24BIT, {fullName})),
+         "4B 0B 00 80 C9 00 80 00 0C 00 " + ToHex(fullName),
          "TANDEKOR_FTM_DISPLAY_IMAGE_24BIT(sFileName[128] = '" + std::string(128, 'n') + "')", 0, 3000,
          "TANDEKOR_FTM_DISPLAY_IMAGE_24BIT()"},
-        {Call(TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL, {200}), "4B 0B 00 80 1E 00 01 00 0C 00 C8",
+        {With(TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL, {200}), "4B 0B 00 80 1E 00 01 00 0C 00 C8",
          "TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL(iLevel = 200)", 0, 3000, "", true},
-        {Call(TANDEKOR_FTM_SWITCH_LCD_BACKLIGHT, {1}), "4B 0B 00 80 97 00 01 00 0C 00 01",
+        {With(TANDEKOR_FTM_SWITCH_LCD_BACKLIGHT, {1}), "4B 0B 00 80 97 00 01 00 0C 00 01",
          "TANDEKOR_FTM_SWITCH_LCD_BACKLIGHT(iSwitchLcdOn = 1)", 0},
-        {Call(TANDEKOR_FTM_SET_LCD_CONTRAST, {255}), "4B 0B 00 80 18 00 01 00 0C 00 FF",
+        {With(TANDEKOR_FTM_SET_LCD_CONTRAST, {255}), "4B 0B 00 80 18 00 01 00 0C 00 FF",
          "TANDEKOR_FTM_SET_LCD_CONTRAST(iLcdContrastLevel = 255)", 0},
-        {Call(TANDEKOR_FTM_SetKeyPadBackLight, {3, 1}), "4B 0B 00 80 F5 00 04 00 0C 00 1F 00 00 00",
+        {With(TANDEKOR_FTM_SetKeyPadBackLight, {3, 1}), "4B 0B 00 80 F5 00 04 00 0C 00 1F 00 00 00",
          "TANDEKOR_FTM_SetKeyPadBackLight()"},
-        {Call(TANDEKOR_FTM_GetSliderState, {0x35}), "4B 0B 00 80 F6 00 00 00 0C 00", "ZR_GetSliderState() start"},
+        {With(TANDEKOR_FTM_GetSliderState, {0x35}), "4B 0B 00 80 F6 00 00 00 0C 00", "ZR_GetSliderState() start"},
         {flash, "4B 0B 00 80 26 00 02 00 0C 00 01 FF", "TANDEKOR_FTM_TEST_CAMERA_FLASH(1, 255)"},
-        {Call(TANDEKOR_FTM_SET_FLASH_LIGHT_LEVEL, {0x1234}), "4B 0B 00 80 96 00 02 00 0D 00 34 12",
+        {With(TANDEKOR_FTM_SET_FLASH_LIGHT_LEVEL, {0x1234}), "4B 0B 00 80 96 00 02 00 0D 00 34 12",
          "TANDEKOR_FTM_SET_FLASH_LIGHT_LEVEL(iLevel = 4660)", 0, 3000, "", true},
-        {Call(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {1}), "4B 0B 00 80 F7 00 01 00 0C 00 01",
+        {With(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {1}), "4B 0B 00 80 F7 00 01 00 0C 00 01",
          "TANDEKOR_FTM_SET_I2C_CAMERA_FOCUS(focusLevel = 1)", 0},
-        {Call(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {255}), "4B 0B 00 80 F7 00 01 00 0C 00 FF",
+        {With(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {255}), "4B 0B 00 80 F7 00 01 00 0C 00 FF",
          "TANDEKOR_FTM_SET_I2C_CAMERA_FOCUS(focusLevel = 255)", 0},
         {ftmId, "4B 0B 00 80 CE 00 0A 00 23 00", "TANDEKOR_FTM_GetCameraIDString() - Started"},
         {ltmId, "4B 0B 01 80 3A 05 0A 00 23 00", "TANDEKOR_LTM_GetCameraIdString() - Started"},
@@ -73,7 +67,7 @@ TEST_F(CameraRequestsTest, FlashTellsOfTheExchangeAloneAndFocusLevel0IsNotSent)
     ExpectAnswers({
         {flash, {"09 00"}, 1, {0}, {text + done}},
         {flash, {silence}, 0, {187}, {text + noReply}},
-        {Call(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {0}), {}, 0, {}, {refusal}},
+        {With(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {0}), {}, 0, {}, {refusal}},
     });
 }
 

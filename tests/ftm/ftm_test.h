@@ -1,24 +1,23 @@
 // What the tests of the factory requests share: the shape of their tables, and what is expected of each row.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
-#include "tests/frame/guarded_call.h"
+#include "tests/support/bench_test.h"
+#include "tests/support/call.h"
 
 namespace tandekor::test
 {
 
 using Texts = std::vector<std::string>;
-using Numbers = std::vector<uint32_t>;
 
 constexpr int ownProcedure = -1;
 
 // An in-and-out argument goes out as the 0x55 that a guarded call puts into it.
 struct FtmRequest
 {
-    GuardedCall call;
+    Call call;
     std::string bytes;  // of the last request, if there are two
     std::string entry;
     int valueBytes = ownProcedure;  // behind the status word in the reply to a standard command
@@ -33,9 +32,10 @@ std::vector<FtmRequest> PhoneDataRequests();
 std::vector<FtmRequest> FmRadioRequests();
 std::vector<FtmRequest> DisplayAndCameraRequests();
 
-// A call of a function with buffers that start with these contents. They stand in the outs byte by byte.
-GuardedCall CallOn(const std::vector<Bytes>& contents,
-                   const std::function<uint8_t(ResourceContext, const std::vector<uint8_t*>&)>& function);
+std::vector<Call> FtmCalls();
+
+// A call whose non-constant arguments are read alone.
+Call ReadOnly(const Call& call);
 
 // Replies other than fields behind a header: an exchange that fails, which may deliver bytes behind the mark, and one
 // that gives nothing.
@@ -47,7 +47,7 @@ constexpr char noReply[] = " - SendSync() fail (error code = 187)";
 
 struct Answered
 {
-    GuardedCall call;
+    Call call;
     Texts replies;
     uint8_t result;
     Numbers outs;

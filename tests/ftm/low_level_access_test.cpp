@@ -7,39 +7,28 @@ namespace tandekor::test
 namespace
 {
 
-const GuardedCall getOut = Call(TANDEKOR_GPIO_GET_OUT, {5}), setOut = Call(TANDEKOR_GPIO_SET_OUT, {3, 1});
-const GuardedCall getConfiguration = Call(TANDEKOR_GPIO_GET_CFG, {9});
-const GuardedCall setConfiguration = Call(TANDEKOR_GPIO_SET_CFG, {9, 1, 2, 3, 4});
-const GuardedCall adc = Call(TANDEKOR_FTM_MGET_ADC_VAL, {3, 1000});
-const GuardedCall gauge = Call(TANDEKOR_FTM_GG_READ_REG, {2});
+const Call getOut = With(TANDEKOR_GPIO_GET_OUT, {5}), setOut = With(TANDEKOR_GPIO_SET_OUT, {3, 1});
+const Call getConfiguration = With(TANDEKOR_GPIO_GET_CFG, {9});
+const Call setConfiguration = With(TANDEKOR_GPIO_SET_CFG, {9, 1, 2, 3, 4});
+const Call adc = With(TANDEKOR_FTM_MGET_ADC_VAL, {3, 1000});
+const Call gauge = With(TANDEKOR_FTM_GG_READ_REG, {2});
 
 // The data are what the buffer holds before.
-GuardedCall I2c(uint8_t type, uint8_t device, uint8_t addressLength, uint16_t address, const Bytes& data)
+Call I2c(uint8_t type, uint8_t device, uint8_t addressLength, uint16_t address, const Bytes& data)
 {
-    return CallOn(
-        {data}, [=, size = static_cast<uint8_t>(data.size())](auto handle, const auto& buffers)
-        { return TANDEKOR_FTM_I2C_DATA_ACCESS(handle, type, device, addressLength, address, size, buffers[0]); });
+    return With(TANDEKOR_FTM_I2C_DATA_ACCESS, {type, device, addressLength, address, data.size(), data});
 }
-
-GuardedCall SelectedI2c(uint8_t type, const Bytes& data)
+Call SelectedI2c(uint8_t type, const Bytes& data)
 {
-    return CallOn({data}, [=, size = static_cast<uint8_t>(data.size())](auto handle, const auto& buffers)
-                  { return TANDEKOR_FTM_I2C_DATA_ACCESS2(handle, type, 0x1C, 0x45, 2, 0x222F, size, buffers[0]); });
+    return With(TANDEKOR_FTM_I2C_DATA_ACCESS2, {type, 0x1C, 0x45, 2, 0x222F, data.size(), data});
 }
+const Call i2cWithoutBuffer = ReadOnly(With(TANDEKOR_FTM_I2C_DATA_ACCESS2, {2, 0, 0x10, 1, 5, 3, nullptr}));
 
-const GuardedCall i2cWithoutBuffer = CallOn(
-    {}, [](auto handle, const auto&) { return TANDEKOR_FTM_I2C_DATA_ACCESS2(handle, 2, 0, 0x10, 1, 5, 3, nullptr); });
+const Bytes amplifier = Hex("01 00 00 80");
+const Call readHeadset = With(TANDEKOR_FTM_HEADSET_AMP_READ, {amplifier});
+const Call writeHeadset = With(TANDEKOR_FTM_HEADSET_AMP_WRITE, {amplifier});
 
-GuardedCall Headset(uint8_t (*function)(ResourceContext, uint32_t*))
-{
-    return CallOn({Hex("01 00 00 80")}, [function](auto handle, const auto& buffers)
-                  { return function(handle, reinterpret_cast<uint32_t*>(buffers[0])); });
-}
-
-GuardedCall GaugeMode(uint8_t mode)
-{
-    return CallOn({{mode}}, [](auto handle, const auto& buffers) { return TANDEKOR_FTM_GG_MODE(handle, buffers[0]); });
-}
+Call GaugeMode(uint8_t mode) { return With(TANDEKOR_FTM_GG_MODE, {Bytes{mode}}); }
 
 const std::string i2cText = "TANDEKOR_FTM_I2C_DATA_ACCESS(iI2C_AccessType = 0x";
 
@@ -50,11 +39,11 @@ std::vector<FtmRequest> LowLevelRequests()
     return {
         {getOut, "4B 00 00 01 00 00 00 00 05", "TANDEKOR_GPIO_GET_OUT(iGPIONum = 5, iValue = 85, iStatus = 85)"},
         {setOut, "4B 00 00 01 01 00 00 00 03 01", "TANDEKOR_GPIO_SET_OUT(iGPIONum = 3, iValue = 1, iStatus = 85)"},
-        {Call(TANDEKOR_GPIO_GET_IN, {7}), "4B 00 00 01 02 00 00 00 07",
+        {With(TANDEKOR_GPIO_GET_IN, {7}), "4B 00 00 01 02 00 00 00 07",
          "TANDEKOR_GPIO_GET_IN(iGPIONum = 7, iValue = 85, iStatus = 85)"},
-        {Call(TANDEKOR_GPIO_GET_OE, {255}), "4B 00 00 01 03 00 00 00 FF",
+        {With(TANDEKOR_GPIO_GET_OE, {255}), "4B 00 00 01 03 00 00 00 FF",
          "TANDEKOR_GPIO_GET_OE(iGPIONum = 255, iValue = 85, iStatus = 85)"},
-        {Call(TANDEKOR_GPIO_SET_OE, {4, 200}), "4B 00 00 01 04 00 00 00 04 C8",
+        {With(TANDEKOR_GPIO_SET_OE, {4, 200}), "4B 00 00 01 04 00 00 00 04 C8",
          "TANDEKOR_GPIO_SET_OE(iGPIONum = 4, iValue = 200, iStatus = 85)"},
         {getConfiguration, "4B 00 00 01 05 00 00 00 09",
          "TANDEKOR_GPIO_GET_CFG(iGPIONum = 9, iSelect = 85, iPullUD = 85, iPullEn = 85, iDir = 85, iStatus = 85)"},
@@ -77,9 +66,9 @@ std::vector<FtmRequest> LowLevelRequests()
         {gauge, "4B 0B 00 80 CF 00 04 00 0E 00 02 55 55 55",
          "TANDEKOR_FTM_GG_READ_REG(eNum = 2, sStatus = 85, iValue = 21845)"},
         {GaugeMode(0), "4B 0B 00 80 D0 00 01 00 0B 00 00", "TANDEKOR_FTM_GG_MODE(iSwitch = 0)"},
-        {Headset(TANDEKOR_FTM_HEADSET_AMP_READ), "4B 0B 00 80 D7 00 04 00 0E 00 01 00 00 80",
+        {readHeadset, "4B 0B 00 80 D7 00 04 00 0E 00 01 00 00 80",
          "TANDEKOR_FTM_HEADSET_AMP_READ(iHeadsetReg = -2147483647)"},
-        {Headset(TANDEKOR_FTM_HEADSET_AMP_WRITE), "4B 0B 00 80 D8 00 04 00 0E 00 01 00 00 80",
+        {writeHeadset, "4B 0B 00 80 D8 00 04 00 0E 00 01 00 00 80",
          "TANDEKOR_FTM_HEADSET_AMP_WRITE(iHeadsetReg = -2147483647)"},
     };
 }
@@ -98,6 +87,16 @@ TEST_F(LowLevelAccessTest, PinValuesAreWrittenOnlyWithAGoodStatusWhichIsTheLastB
         {getOut, {"07 02"}, 0, {0x55, 2}, {get + "85, iStatus = 2) - Wrong status = 2"}},
         {getOut, {nothing}, 0, {0x55, 0x55}, {get + "85, iStatus = 85) - Wrong status = 85"}},
         {getOut, {silence}, 0, {0x55, 0x55}, {get + "85, iStatus = 85) - error code = 187"}},
+        {With(TANDEKOR_GPIO_GET_IN, {7}),
+         {"07 00"},
+         1,
+         {7, 0},
+         {"\tTANDEKOR_GPIO_GET_IN(iGPIONum = 7, iValue = 7, iStatus = 0)" + std::string(done)}},
+        {With(TANDEKOR_GPIO_GET_OE, {255}),
+         {"07 00"},
+         1,
+         {7, 0},
+         {"\tTANDEKOR_GPIO_GET_OE(iGPIONum = 255, iValue = 7, iStatus = 0)" + std::string(done)}},
         {setOut, {"07 00"}, 1, {0}, {set + "0)" + done}},
         {setOut, {"00 FF"}, 0, {255}, {set + "255) - Wrong status = 255"}},
         {getConfiguration,
@@ -117,8 +116,8 @@ TEST_F(LowLevelAccessTest, PinValuesAreWrittenOnlyWithAGoodStatusWhichIsTheLastB
 
 TEST_F(LowLevelAccessTest, I2cReadIsJudgedByItsLengthAndStatusAndAWriteByTheExchange)
 {
-    const GuardedCall read = I2c(0, 0x10, 1, 0x0B, Bytes(4, 0x55)), write = SelectedI2c(1, Hex("A1 B2"));
-    const Numbers data{0xA1, 0xA2, 0xA3, 0xA4}, untouched(4, 0x55), sent{0xA1, 0xB2};
+    const Call read = I2c(0, 0x10, 1, 0x0B, Bytes(4, 0x55)), write = SelectedI2c(1, Hex("A1 B2"));
+    const Numbers data{0xA4A3A2A1}, untouched{0x55555555}, sent{0xB2A1};
     const std::string text = "\tTANDEKOR_FTM_I2C_DATA_ACCESS2(iI2C_AccessType = 0x";
     const std::string readText
         = text + "0, iI2C_SlaveAddr = 0x10, iI2C_RegAddrLen = 0x1, iI2C_RegAddr = 0xB, iI2C_DataLen = 0x4)";
@@ -163,19 +162,18 @@ TEST_F(LowLevelAccessTest, ValuesOfAdcAndFuelGauge)
 
 TEST_F(LowLevelAccessTest, HeadsetReplyIsNotUnpackedAndTheResultIsTheHostLibrarys)
 {
-    const GuardedCall read = Headset(TANDEKOR_FTM_HEADSET_AMP_READ), write = Headset(TANDEKOR_FTM_HEADSET_AMP_WRITE);
     const std::string readText = "\tTANDEKOR_FTM_HEADSET_AMP_READ(iHeadsetReg = -2147483647)";
     const std::string writeText = "\tTANDEKOR_FTM_HEADSET_AMP_WRITE(iHeadsetReg = 2147483649)";
-    const Numbers value{1, 0, 0, 0x80};
+    const Numbers value{0x80000001};
     ExpectAnswers({
-        {read, {"0A 0B 0C 0D"}, 1, value, {readText + done}},
-        {read, {silence}, 0, value, {readText + " - error code = 187"}},
-        {write, {"0A 0B 0C 0D"}, 1, value, {writeText + done}},
-        {write, {silence}, 0, value, {writeText + " - error code = 187"}},
+        {readHeadset, {"0A 0B 0C 0D"}, 1, value, {readText + done}},
+        {readHeadset, {silence}, 0, value, {readText + " - error code = 187"}},
+        {writeHeadset, {"0A 0B 0C 0D"}, 1, value, {writeText + done}},
+        {writeHeadset, {silence}, 0, value, {writeText + " - error code = 187"}},
     });
     simulator::RepeatReply({{}, 7, {}});
-    EXPECT_EQ(read(handle).result, 7);
-    EXPECT_EQ(write(handle).result, 7);
+    EXPECT_EQ(readHeadset(handle).result, 7);
+    EXPECT_EQ(writeHeadset(handle).result, 7);
 }
 
 }  // namespace tandekor::test

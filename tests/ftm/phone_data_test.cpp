@@ -7,22 +7,16 @@ namespace tandekor::test
 namespace
 {
 
-const GuardedCall imsi = CallOn({Hex("00 01 02 03 04 05 06 07 FF")}, [](auto handle, const auto& buffers)
-                                { return TANDEKOR_FTM_SIM_READ_IMSI(handle, buffers[0]); });
-const GuardedCall simMode = Call(TANDEKOR_FTM_SIM_GET_MODE);
+const Call imsi = With(TANDEKOR_FTM_SIM_READ_IMSI, {Hex("00 01 02 03 04 05 06 07 FF")});
+const Call simMode = With(TANDEKOR_FTM_SIM_GET_MODE);
 
 // The file is a text without a NUL.
-GuardedCall KcFile(uint8_t (*function)(ResourceContext, uint8_t*, uint8_t*))
-{
-    return CallOn({Ascii("Kc file 9"), {3}},
-                  [function](auto handle, const auto& buffers) { return function(handle, buffers[0], buffers[1]); });
-}
-const GuardedCall readKc = KcFile(TANDEKOR_FTM_SIM_READ_KC_FILE), writeKc = KcFile(TANDEKOR_FTM_SIM_WRITE_KC_FILE);
+const Call readKc = With(TANDEKOR_FTM_SIM_READ_KC_FILE, {Ascii("Kc file 9"), Bytes{3}});
+const Call writeKc = With(TANDEKOR_FTM_SIM_WRITE_KC_FILE, {Ascii("Kc file 9"), Bytes{3}});
 
-GuardedCall Card(uint8_t accessType, const Bytes& data, const std::string& name = "Test.bin")
+Call Card(uint8_t accessType, const Bytes& data, const std::string& name = "Test.bin")
 {
-    return CallOn({data}, [=, size = static_cast<uint16_t>(data.size())](auto handle, const auto& buffers)
-                  { return TANDEKOR_FTM_MMC_FILE_ACCESS(handle, accessType, size, name.c_str(), buffers[0]); });
+    return With(TANDEKOR_FTM_MMC_FILE_ACCESS, {accessType, data.size(), name, data});
 }
 
 // The bytes of a name on the wire.
@@ -39,30 +33,17 @@ std::string CardText(int accessType, int length, const std::string& name = "Test
            + ", iMMC_DataLength = " + std::to_string(length) + ", psFileName= '" + name + "')";
 }
 
-const GuardedCall writeFactoryByte = CallOn({},
-                                            [](auto handle, const auto&)
-                                            {
-                                                uint8_t data = 0xA7;
-                                                return TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(handle, 1, 0x0102, &data);
-                                            });
+const Call writeFactoryByte = ReadOnly(With(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {1, 0x0102, Bytes{0xA7}}));
 
-const GuardedCall writeLinearizer
-    = CallOn({},
-             [](auto handle, const auto&)
-             {
-                 std::vector<uint16_t> values(174);
-                 for (size_t i = 0; i < values.size(); ++i)
-                     values[i] = static_cast<uint16_t>(0x8000 + i);
-                 return TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(handle, 2, values.data(), 60000);
-             });
-
-std::string LinearizerBytes()
+// The values 0x8000, 0x8001 and so on, as they stand in memory and on the wire.
+const Bytes linearizer = []
 {
-    Bytes bytes = Hex("4B 0B 00 80 1A 00 5D 01 0C 00 02");
+    Bytes bytes;
     for (int i = 0; i < 174; ++i)
         bytes.insert(bytes.end(), {static_cast<uint8_t>(i), 0x80});
-    return ToHex(bytes);
-}
+    return bytes;
+}();
+const Call writeLinearizer = ReadOnly(With(TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER, {2, linearizer, 60000}));
 
 }  // namespace
 
@@ -86,15 +67,15 @@ std::vector<FtmRequest> PhoneDataRequests()
         {Card(2, {}, std::string(300, 'n')),
          "4B 0B 00 80 12 00 85 00 0C 00 02 00 00 00 00 " + Name(std::string(128, 'n')),
          CardText(2, 0, std::string(300, 'n'))},
-        {Call(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {0, 0x0102}), "4B 0B 00 80 15 00 04 00 0D 00 00 02 01",
+        {With(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {0, 0x0102}), "4B 0B 00 80 15 00 04 00 0D 00 00 02 01",
          "TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(iOperationType = 0, iDataAddress = 258)", 1},
-        {Call(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {255, 65535}), "4B 0B 00 80 15 00 04 00 0D 00 FF FF FF",
+        {With(TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, {255, 65535}), "4B 0B 00 80 15 00 04 00 0D 00 FF FF FF",
          "TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(iOperationType = 255, iDataAddress = 65535)", 1},
         {writeFactoryByte, "4B 0B 00 80 15 00 04 00 0D 00 01 02 01 A7",
          "TANDEKOR_FTM_READ_WRITE_FACTORY_DATA(iOperationType = 1, iDataAddress = 258)", 0},
-        {Call(TANDEKOR_FTM_LOAD_RF_NV), "4B 0B 00 80 23 00 00 00 0C 00", "TANDEKOR_FTM_LOAD_RF_NV() ", 0, 3000,
+        {With(TANDEKOR_FTM_LOAD_RF_NV), "4B 0B 00 80 23 00 00 00 0C 00", "TANDEKOR_FTM_LOAD_RF_NV() ", 0, 3000,
          "TANDEKOR_FTM_LOAD_RF_NV()"},
-        {writeLinearizer, LinearizerBytes(),
+        {writeLinearizer, "4B 0B 00 80 1A 00 5D 01 0C 00 02 " + ToHex(linearizer),
          "TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(iGSM_Band = 2, iGSM_DACvsPower[0] = 32768, iDelay_ms = 60000)", 0,
          60000},
     };
@@ -141,13 +122,13 @@ TEST_F(PhoneDataTest, KcFileOfTheReplyReplacesTheCallersWhateverItsStatusIs)
 
 TEST_F(PhoneDataTest, CardReadTakesDataAndStatusAndOtherAccessLooksAtTheExchangeAlone)
 {
-    const GuardedCall read = Card(0, Bytes(4)), readMore = Card(0, Bytes(20));
+    const Call read = Card(0, Bytes(4)), readMore = Card(0, Bytes(20));
     const std::string text = "\tTANDEKOR_FTM_MMC_FILE_ACCESS()", refused = text + " - SendSync() fail (error code = ";
     ExpectAnswers({
-        {read, {"00 00 A1 A2 A3 A4"}, 1, {0xA1, 0xA2, 0xA3, 0xA4}, {text + done}},
-        {read, {"07 81 A1 A2 A3 A4"}, 0, {0xA1, 0xA2, 0xA3, 0xA4}, {refused + "33031)"}},
-        {read, {nothing}, 1, Numbers(4), {text + done}},
-        {read, {silence}, 0, Numbers(4), {text + noReply}},
+        {read, {"00 00 A1 A2 A3 A4"}, 1, {0xA4A3A2A1}, {text + done}},
+        {read, {"07 81 A1 A2 A3 A4"}, 0, {0xA4A3A2A1}, {refused + "33031)"}},
+        {read, {nothing}, 1, {0}, {text + done}},
+        {read, {silence}, 0, {0}, {text + noReply}},
         {readMore, {"00 00 A1 A2 A3 A4 00 00"}, 1, Numbers(20), {text + done}},
         {readMore, {"00 00 A1 A2 A3 A4 07 00"}, 0, Numbers(20), {refused + "7)"}},
         {Card(0, {}), {"05 00"}, 0, {}, {refused + "5)"}},
@@ -175,11 +156,11 @@ TEST_F(PhoneDataTest, CardDataAreHeldToTheRequestAndReplyAreas)
     const Bytes fullReply(4096, 0x01);
     Replies(fullReply);
     CallResult call = Card(0, Bytes(4094))(handle);
-    EXPECT_EQ(call.outs, Numbers(4094, 0x01));
+    EXPECT_EQ(call.outs[0], Bytes(4094, 0x01));
     EXPECT_TRUE(call.guardsIntact);
     Replies(fullReply);
     call = Card(0, Bytes(65535))(handle);
-    EXPECT_TRUE(call.outsUntouched);
+    EXPECT_FALSE(call.written[0]);
     EXPECT_EQ(Log().back(), "\tTANDEKOR_FTM_MMC_FILE_ACCESS() - SendSync() fail (error code = 257)");
     EXPECT_TRUE(LastRequest().starts_with("4B 0B 00 80 12 00 85 00 0B 00 00 FF FF 00 00 ")) << "65547 as 16 bits";
 }
@@ -187,8 +168,8 @@ TEST_F(PhoneDataTest, CardDataAreHeldToTheRequestAndReplyAreas)
 TEST_F(PhoneDataTest, StatusOfTheRfItemsIsHandedOutAndTheCalibrationIsNeverSent)
 {
     RepliesWith("07 81");
-    EXPECT_EQ(Call(TANDEKOR_FTM_LOAD_RF_NV)(handle).outs, Numbers{0x8107});
-    ExpectAnswers({{Call(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<int64_t>(15, 1)), {}, 0, {}, {}}});
+    EXPECT_EQ(Values(With(TANDEKOR_FTM_LOAD_RF_NV)(handle).outs), Numbers{0x8107});
+    ExpectAnswers({{With(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<Given>(15, 1)), {}, 0, {}, {}}});
     EXPECT_EQ(Log(), Texts{"TANDEKOR_FTM_WRITE_WCDMA_RF_CAL()"});
 }
 

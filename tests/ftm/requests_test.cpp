@@ -9,38 +9,38 @@ namespace
 const std::vector<FtmRequest>& Requests()
 {
     static const std::vector<FtmRequest> identificationAndSwitches = {
-        {Call(TANDEKOR_FTM_GET_HARDWARE_VERSION), "4B 0B 00 80 0A 00 00 00 10 00",
+        {With(TANDEKOR_FTM_GET_HARDWARE_VERSION), "4B 0B 00 80 0A 00 00 00 10 00",
          "TANDEKOR_FTM_GET_HARDWARE_VERSION()", 4},
-        {Call(TANDEKOR_FTM_GET_HW_ID), "4B 0B 00 80 1D 00 00 00 0E 00", "TANDEKOR_FTM_GET_HW_ID()", 2},
-        {Call(TANDEKOR_FTM_GET_NAND_FLASH_ID), "4B 0B 00 80 0B 00 02 00 0E 00", "TANDEKOR_FTM_GET_NAND_FLASH_ID()", 2},
-        {Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION), "4B 0B 00 80 0D 00 00 00 0D 00",
+        {With(TANDEKOR_FTM_GET_HW_ID), "4B 0B 00 80 1D 00 00 00 0E 00", "TANDEKOR_FTM_GET_HW_ID()", 2},
+        {With(TANDEKOR_FTM_GET_NAND_FLASH_ID), "4B 0B 00 80 0B 00 02 00 0E 00", "TANDEKOR_FTM_GET_NAND_FLASH_ID()", 2},
+        {With(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION), "4B 0B 00 80 0D 00 00 00 0D 00",
          "TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()"},
-        {Call(TANDEKOR_FTM_GET_BT_PARAM), "4B 0B 00 80 24 00 00 00 0F 00", "TANDEKOR_FTM_GET_BT_PARAM()", 3},
-        {Call(TANDEKOR_FTM_CONFIGURE_SWITCH, {1, 0}), "4B 0B 00 80 0E 00 03 00 0C 00 01 00 00",
+        {With(TANDEKOR_FTM_GET_BT_PARAM), "4B 0B 00 80 24 00 00 00 0F 00", "TANDEKOR_FTM_GET_BT_PARAM()", 3},
+        {With(TANDEKOR_FTM_CONFIGURE_SWITCH, {1, 0}), "4B 0B 00 80 0E 00 03 00 0C 00 01 00 00",
          "TANDEKOR_FTM_CONFIGURE_SWITCH(iSwitchID = 1, iSwitchState = 0)", 0},
-        {Call(TANDEKOR_FTM_CONFIGURE_SWITCH, {254, 255}), "4B 0B 00 80 0E 00 03 00 0C 00 FE 00 FF",
+        {With(TANDEKOR_FTM_CONFIGURE_SWITCH, {254, 255}), "4B 0B 00 80 0E 00 03 00 0C 00 FE 00 FF",
          "TANDEKOR_FTM_CONFIGURE_SWITCH(iSwitchID = 254, iSwitchState = 255)", 0},
-        {Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {1}), "4B 0B 00 80 13 00 01 00 0C 00 01",
+        {With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {1}), "4B 0B 00 80 13 00 01 00 0C 00 01",
          "TANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = 1)"},
-        {Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3}), "4B 0B 00 80 13 00 01 00 0C 00 03",
+        {With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3}), "4B 0B 00 80 13 00 01 00 0C 00 03",
          "TANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = 3)", ownProcedure, 20},
-        {Call(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2}), "4B 0B 00 80 19 00 00 00 0C 00 02",
+        {With(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2}), "4B 0B 00 80 19 00 00 00 0C 00 02",
          "TANDEKOR_FTM_TEST_PMIC_USB(iUSB_UART_Mode = 2)", 0, 3000,
          "TANDEKOR_FTM_TEST_FTM_PMIC_USB(iUSB_UART_Mode = 2)"},
-        {Call(TANDEKOR_FTM_IRDA_ON_OFF, {1}), "4B 0B 00 80 0C 00 02 00 0C 00 01",
+        {With(TANDEKOR_FTM_IRDA_ON_OFF, {1}), "4B 0B 00 80 0C 00 02 00 0C 00 01",
          "TANDEKOR_FTM_IRDA_ON_OFF(iTurnLED_On = 1)", 0},
-        {Call(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {65535}), "4B 0B 00 80 21 00 02 00 0C 00 FF FF",
+        {With(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {65535}), "4B 0B 00 80 21 00 02 00 0C 00 FF FF",
          "TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST(iIrdaLength_ms = 65535)", ownProcedure, 68535},
-        {Call(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9}), "4B 0B 01 80 4A 05 0C 00 0C 00 00 05 0C",
+        {With(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9}), "4B 0B 01 80 4A 05 0C 00 0C 00 00 05 0C",
          "TANDEKOR_FTM_TEST_IRDA_TX_RX()"},
-        {Call(TANDEKOR_FTM_START_AGPS_CTON_MEAS), "4B 0B 00 80 1F 00 00 00 0C 00",
+        {With(TANDEKOR_FTM_START_AGPS_CTON_MEAS), "4B 0B 00 80 1F 00 00 00 0C 00",
          "TANDEKOR_FTM_START_AGPS_CTON_MEAS()"},
-        {Call(TANDEKOR_FTM_GET_AGPS_CTON_MEAS), "4B 0B 00 80 20 00 00 00 0E 00", "TANDEKOR_FTM_GET_AGPS_CTON_MEAS()"},
-        {Call(TANDEKOR_FTM_RTC_START, {0x1234}), "4B 0B 00 80 D5 00 03 00 0D 00 55 34 12",
+        {With(TANDEKOR_FTM_GET_AGPS_CTON_MEAS), "4B 0B 00 80 20 00 00 00 0E 00", "TANDEKOR_FTM_GET_AGPS_CTON_MEAS()"},
+        {With(TANDEKOR_FTM_RTC_START, {0x1234}), "4B 0B 00 80 D5 00 03 00 0D 00 55 34 12",
          "TANDEKOR_FTM_RTC_START(bStatus = 85, iTime = 4660)"},
-        {Call(TANDEKOR_FTM_RTC_OSC_CTRL, {1}), "4B 0B 00 80 D6 00 02 00 0C 00 55 01",
+        {With(TANDEKOR_FTM_RTC_OSC_CTRL, {1}), "4B 0B 00 80 D6 00 02 00 0C 00 55 01",
          "TANDEKOR_FTM_RTC_OSC_CTRL(bStatus = 85, bSwitch = 1)"},
-        {Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), "4B 0B 00 80 D9 00 02 00 0C 00 07 FF",
+        {With(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), "4B 0B 00 80 D9 00 02 00 0C 00 07 FF",
          "TANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
     };
     static const std::vector<FtmRequest> requests = []
@@ -58,12 +58,12 @@ using FtmRequestsTest = FtmTest;
 
 }  // namespace
 
-std::vector<GuardedCall> FtmCalls()
+std::vector<Call> FtmCalls()
 {
-    std::vector<GuardedCall> calls;
+    std::vector<Call> calls;
     for (const FtmRequest& request : Requests())
         calls.push_back(request.call);
-    calls.push_back(Call(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<int64_t>(15, -1)));
+    calls.push_back(With(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<Given>(15, -1)));
     return calls;
 }
 
@@ -94,7 +94,7 @@ TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
         {
             const CallResult call = request.call(handle);
             EXPECT_EQ(call.result, result) << request.entry;
-            EXPECT_EQ(call.outsUntouched, !outsWritten || call.outs.empty()) << request.entry;
+            EXPECT_EQ(call.written, std::vector<bool>(call.outs.size(), outsWritten)) << request.entry;
             EXPECT_EQ(Log().back(), closing + ending);
         };
         RepliesWith("00 00" + values);
@@ -112,10 +112,10 @@ TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
 
 TEST_F(FtmRequestsTest, FieldsAreTakenFromTheEndOfTheReplyAsFarAsItGoes)
 {
-    const GuardedCall hardware = Call(TANDEKOR_FTM_GET_HARDWARE_VERSION), bluetooth = Call(TANDEKOR_FTM_GET_BT_PARAM);
+    const Call hardware = With(TANDEKOR_FTM_GET_HARDWARE_VERSION), bluetooth = With(TANDEKOR_FTM_GET_BT_PARAM);
     struct
     {
-        GuardedCall call;
+        Call call;
         std::string reply;
         uint8_t result;
         Numbers outs;
@@ -127,7 +127,7 @@ TEST_F(FtmRequestsTest, FieldsAreTakenFromTheEndOfTheReplyAsFarAsItGoes)
         {hardware, "07 00 00", 1, {0x55555555}},
         {hardware, "07 00", 0, {0x55555555}},
         {hardware, "07", 1, {0x55555555}},
-        {Call(TANDEKOR_FTM_GET_NAND_FLASH_ID), "00 00 34 12", 1, {0x1234}},
+        {With(TANDEKOR_FTM_GET_NAND_FLASH_ID), "00 00 34 12", 1, {0x1234}},
         {bluetooth, "05 01 01 02 03", 0, {0x0105, 1, 2, 3}},
         {bluetooth, "09 01 02 03", 1, {0x5555, 1, 2, 3}},
         {bluetooth, "03", 1, {0x5555, 0x55, 0x55, 3}},
@@ -137,26 +137,26 @@ TEST_F(FtmRequestsTest, FieldsAreTakenFromTheEndOfTheReplyAsFarAsItGoes)
         Replies(Hex(row.reply));
         const CallResult call = row.call(handle);
         EXPECT_EQ(call.result, row.result) << row.reply;
-        EXPECT_EQ(call.outs, row.outs) << row.reply;
+        EXPECT_EQ(Values(call.outs), row.outs) << row.reply;
     }
 }
 
 TEST_F(FtmRequestsTest, HardwareIdOfOneBuildNeedsNoRequest)
 {
-    const GuardedCall call = Call(TANDEKOR_FTM_GET_HW_ID);
+    const Call call = With(TANDEKOR_FTM_GET_HW_ID);
     const std::string entry = "TANDEKOR_FTM_GET_HW_ID()", asked = "QLIB_DIAG_EXT_BUILD_ID_F()";
     const std::string completed = "\tTANDEKOR_FTM_GET_HW_ID() - Completed successfully\n";
     simulator::ThePhone().buildId = "M-DraK2F-07";
-    EXPECT_EQ(call(handle).outs, Numbers{8});
+    EXPECT_EQ(Values(call(handle).outs), Numbers{8});
     EXPECT_EQ(CountExchanges(), 0u);
 
     RepliesWith("00 00 02 01");
     simulator::RefuseCall("QLIB_DIAG_EXT_BUILD_ID_F");
-    EXPECT_EQ(call(handle).outs, Numbers{0x0102});
+    EXPECT_EQ(Values(call(handle).outs), Numbers{0x0102});
     simulator::ThePhone().buildId = "DraK2";
     simulator::ThePhone().buildModel = "DraK2F";
     RepliesWith("00 00 02 01");
-    EXPECT_EQ(call(handle).outs, Numbers{0x0102});
+    EXPECT_EQ(Values(call(handle).outs), Numbers{0x0102});
     EXPECT_EQ(Log(), (Texts{entry, asked, entry, completed, entry, asked, completed}));
 }
 
@@ -164,23 +164,23 @@ TEST_F(FtmRequestsTest, HardwareIdOfOneBuildNeedsNoRequest)
 TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
 {
     constexpr uint32_t untouched = 0x55555555;
-    const GuardedCall gauge = Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION);
+    const Call gauge = With(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION);
     const std::string gaugeText = "\tTANDEKOR_FTM_GET_FUEL_GAUGE_VERSION()", refused = gaugeText + " - error code = 5";
     const std::string secondText = "TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()";
-    const GuardedCall power2 = Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {2});
-    const GuardedCall power3 = Call(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3});
+    const Call power2 = With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {2});
+    const Call power3 = With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3});
     const std::string powerText = "\tTANDEKOR_FTM_SET_LOW_POWER_MODE(iLowPowerMode = ";
-    const GuardedCall led = Call(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {500});
+    const Call led = With(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {500});
     const std::string ledText = "\tTANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST()";
-    const GuardedCall loop = Call(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9});
+    const Call loop = With(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9});
     const std::string loopText = "\tTANDEKOR_FTM_TEST_IRDA_TX_RX()";
-    const GuardedCall start = Call(TANDEKOR_FTM_START_AGPS_CTON_MEAS), get = Call(TANDEKOR_FTM_GET_AGPS_CTON_MEAS);
+    const Call start = With(TANDEKOR_FTM_START_AGPS_CTON_MEAS), get = With(TANDEKOR_FTM_GET_AGPS_CTON_MEAS);
     const std::string startText = "\tTANDEKOR_FTM_START_AGPS_CTON_MEAS()";
     const std::string getText = "\tTANDEKOR_FTM_GET_AGPS_CTON_MEAS()";
-    const GuardedCall clock = Call(TANDEKOR_FTM_RTC_START, {32769}), osc = Call(TANDEKOR_FTM_RTC_OSC_CTRL, {1});
+    const Call clock = With(TANDEKOR_FTM_RTC_START, {32769}), osc = With(TANDEKOR_FTM_RTC_OSC_CTRL, {1});
     const std::string clockText = "\tTANDEKOR_FTM_RTC_START(bStatus = ";
     const std::string oscText = "\tTANDEKOR_FTM_RTC_OSC_CTRL(bStatus = ";
-    const GuardedCall tracer = Call(TANDEKOR_FTM_TRACER_CONTROL, {7, 1});
+    const Call tracer = With(TANDEKOR_FTM_TRACER_CONTROL, {7, 1});
     const std::string tracerText = "\tTANDEKOR_FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 1)";
     ExpectAnswers({
         {gauge, {"00 00 21"}, 1, {0x21}, {gaugeText + done}},
@@ -217,10 +217,10 @@ TEST_F(FtmRequestsTest, RequestsThatTheTableDoesNotShow)
 {
     RepliesWith("05 00 21");
     Replies(Bytes());
-    EXPECT_EQ(Call(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION)(handle).result, 1) << "the first status does not count twice";
+    EXPECT_EQ(With(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION)(handle).result, 1) << "the first status does not count twice";
     EXPECT_EQ(LastRequest(), "4B 0B 01 80 3E 05 0A 00 0C 00");
     FailsToReply();
-    Call(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9})(handle);
+    With(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9})(handle);
     EXPECT_EQ(LastRequest(), "4B 0B 01 80 3C 05 0C 00 0C 00 00 A7 0C");
 }
 

@@ -1,7 +1,7 @@
 #include "tests/support/bench_test.h"
 
-#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <sstream>
 
 namespace tandekor::test
@@ -17,8 +17,6 @@ Bytes Hex(const std::string& digits)
     return bytes;
 }
 
-Bytes Ascii(const std::string& text) { return {text.begin(), text.end()}; }
-
 std::string ToHex(const Bytes& bytes)
 {
     std::string digits;
@@ -31,16 +29,17 @@ std::string ToHex(const Bytes& bytes)
     return digits;
 }
 
-GuardedBuffer::GuardedBuffer(size_t bufferSize) : memory(bufferSize + 2 * guardSize, 0xA5)
+Numbers Values(const std::vector<Bytes>& outs)
 {
-    std::fill(memory.begin() + guardSize, memory.end() - guardSize, uint8_t{0x55});
-}
-
-bool GuardedBuffer::GuardsIntact() const
-{
-    const auto intact = [](uint8_t byte) { return byte == 0xA5; };
-    return std::all_of(memory.begin(), memory.begin() + guardSize, intact)
-           && std::all_of(memory.end() - guardSize, memory.end(), intact);
+    Numbers values;
+    for (const Bytes& out : outs)
+    {
+        if (out.size() == 1 || out.size() == 2 || out.size() == 4)
+            std::memcpy(&values.emplace_back(0), out.data(), out.size());
+        else
+            values.insert(values.end(), out.begin(), out.end());
+    }
+    return values;
 }
 
 BenchTest::BenchTest()

@@ -11,36 +11,20 @@
 
 #include "simulator/control.h"
 #include "tandekor/tandekor.h"
+#include "tests/support/guarded_buffer.h"
 
 namespace tandekor::test
 {
 
-using simulator::Bytes;
-
 // "4B 0B 00 80" as bytes.
 Bytes Hex(const std::string& digits);
-
-// The characters of a text as bytes, without its NUL.
-Bytes Ascii(const std::string& text);
 
 // Bytes as "4B 0B 00 80", for readable failures.
 std::string ToHex(const Bytes& bytes);
 
-// A caller's buffer of a given size between guard bytes. It starts filled with 0x55.
-class GuardedBuffer
-{
-public:
-    explicit GuardedBuffer(size_t bufferSize);
-
-    uint8_t* Data() { return memory.data() + guardSize; }
-    char* Text() { return reinterpret_cast<char*>(Data()); }
-    Bytes Content() const { return {memory.begin() + guardSize, memory.end() - guardSize}; }
-    bool GuardsIntact() const;
-
-private:
-    static constexpr ptrdiff_t guardSize = 64;
-    Bytes memory;
-};
+// Out-arguments as numbers: those of 1, 2 or 4 bytes as the values that they are, others byte by byte.
+using Numbers = std::vector<uint32_t>;
+Numbers Values(const std::vector<Bytes>& outs);
 
 class BenchTest : public ::testing::Test
 {

@@ -1,0 +1,72 @@
+// Tables of AT commands and replies, and what is expected of each row.
+#pragma once
+
+#include "tests/support/bench_test.h"
+#include "tests/support/call.h"
+
+namespace tandekor::test
+{
+
+// Out-values as the bytes that they have in the caller's memory.
+template <typename Number>
+Bytes InMemory(const std::vector<Number>& numbers)
+{
+    const auto* start = reinterpret_cast<const uint8_t*>(numbers.data());
+    return {start, start + numbers.size() * sizeof(Number)};
+}
+template <typename... Numbers>
+Bytes U32(Numbers... numbers)
+{
+    return InMemory(std::vector{static_cast<uint32_t>(numbers)...});
+}
+inline Bytes U16(uint16_t number) { return InMemory(std::vector{number}); }
+
+// The bytes of a text with the NUL behind it.
+inline Bytes Text(const std::string& text) { return Ascii(text + '\0'); }
+
+// A whole reply that ends in OK; without echo if that is empty.
+inline std::string Reply(const std::string& echo, const std::string& lines)
+{
+    return echo + (echo.empty() ? "" : "\r") + "\r\n" + lines + "\r\n\r\nOK";
+}
+
+// A reply of 4096 bytes: the entry as often as it fits behind the head, and OK.
+std::string Dense(const std::string& head, const std::string& entry);
+
+struct SentCommand
+{
+    Call call;
+    std::string request;  // without the carriage return and the NUL behind it
+    std::string log;
+    uint32_t timeoutMs = 3000;
+    std::vector<Bytes> writtenOnFailure = {};
+};
+
+struct ReadReply
+{
+    Call call;
+    std::string reply;
+    std::vector<Bytes> outs;  // what is written, from the first byte of each out-argument on
+};
+
+// The commands of one file by what is sent, what is read, and replies that are dense with values.
+struct AtTable
+{
+    std::vector<SentCommand> commands;
+    std::vector<ReadReply> replies;
+    std::vector<std::string> dense = {};
+};
+AtTable SingleValues();
+AtTable StructuredQueries();
+AtTable TextParameters();
+AtTable Messages();
+std::vector<AtTable> AllAtCommands();
+
+class AtTest : public BenchTest
+{
+protected:
+    // The call succeeds with this status, and writes these bytes and no more.
+    void ExpectOuts(const Call& call, uint16_t status, const std::vector<Bytes>& written);
+};
+
+}  // namespace tandekor::test
