@@ -32,11 +32,25 @@ void LogLine::Write(ResourceContext hResourceContext) const { WriteToLog(hResour
 
 FormattedText::FormattedText(const char* format, ...)
 {
-    line[0] = '\t';
     va_list values;
     va_start(values, format);
-    std::vsnprintf(line + 1, textBufferSize, format, values);
+    Fill(format, values);
     va_end(values);
+}
+
+const FormattedText& FormattedText::Format(const char* format, ...)
+{
+    va_list values;
+    va_start(values, format);
+    Fill(format, values);
+    va_end(values);
+    return *this;
+}
+
+void FormattedText::Fill(const char* format, va_list values)
+{
+    line[0] = '\t';
+    std::vsnprintf(line + 1, textBufferSize, format, values);
 }
 
 void FormattedText::WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const

@@ -32,7 +32,11 @@ private:
 class FormattedText
 {
 public:
+    FormattedText() { line[0] = line[1] = '\0'; }
     explicit FormattedText(const char* format, ...) __attribute__((format(printf, 2, 3)));
+
+    // The text anew, for one whose values change from line to line.
+    const FormattedText& Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
 
     const char* Text() const { return line + 1; }
 
@@ -41,6 +45,8 @@ public:
         __attribute__((format(printf, 3, 4)));
 
 private:
+    void Fill(const char* format, va_list values);
+
     mutable char line[1 + textBufferSize];  // with the tab, and an ending while that is written
 };
 

@@ -23,33 +23,35 @@ uint8_t Pin(ResourceContext hResourceContext, Text text, uint32_t operationCode,
     return With(Ftm(hResourceContext),
                 [&](FtmChannel& ftm)
                 {
-                    ftm.Start(text());
+                    FormattedText line;
+                    const auto current = [&]() -> const FormattedText& { return text(line); };
+                    ftm.Start(current());
                     if (ftm.ExchangeOem(pinCommandWord, operationCode, data) == 0)
-                        return ftm.ErrorCode(text(), ftm.ErrorByte());
+                        return ftm.ErrorCode(current(), ftm.ErrorByte());
                     ftm.Take({iStatus});
                     if (*iStatus != 0)
                     {
-                        Trace(hResourceContext, "\t%s - Wrong status = %i", text().Text(), *iStatus);
+                        current().WriteWithEnding(hResourceContext, " - Wrong status = %i", *iStatus);
                         return false;
                     }
                     ftm.Take(values);
-                    return ftm.Completed(text());
+                    return ftm.Completed(current());
                 });
 }
 
 uint8_t GetPin(ResourceContext hResourceContext, const char* name, uint32_t operationCode, uint8_t iGPIONum,
                uint8_t* iValue, uint8_t* iStatus)
 {
-    const auto text = [&]
-    { return FormattedText("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, *iValue, *iStatus); };
+    const auto text = [&](FormattedText& line) -> const FormattedText&
+    { return line.Format("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, *iValue, *iStatus); };
     return Pin(hResourceContext, text, operationCode, {iGPIONum}, iStatus, {iValue});
 }
 
 uint8_t SetPin(ResourceContext hResourceContext, const char* name, uint32_t operationCode, uint8_t iGPIONum,
                uint8_t iValue, uint8_t* iStatus)
 {
-    const auto text = [&]
-    { return FormattedText("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, iValue, *iStatus); };
+    const auto text = [&](FormattedText& line) -> const FormattedText&
+    { return line.Format("%s(iGPIONum = %i, iValue = %i, iStatus = %i)", name, iGPIONum, iValue, *iStatus); };
     return Pin(hResourceContext, text, operationCode, {iGPIONum, iValue}, iStatus, {});
 }
 
@@ -86,10 +88,10 @@ uint8_t TANDEKOR_GPIO_GET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum
                               uint8_t* iPullEn, uint8_t* iDir, uint8_t* iStatus)
 {
     const char* const name = __func__;
-    const auto text = [&]
+    const auto text = [&](FormattedText& line) -> const FormattedText&
     {
-        return FormattedText("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)",
-                             name, iGPIONum, *iSelect, *iPullUD, *iPullEn, *iDir, *iStatus);
+        return line.Format("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)", name,
+                           iGPIONum, *iSelect, *iPullUD, *iPullEn, *iDir, *iStatus);
     };
     return Pin(hResourceContext, text, 5, {iGPIONum}, iStatus, {iSelect, iPullUD, iPullEn, iDir});
 }
@@ -98,10 +100,10 @@ uint8_t TANDEKOR_GPIO_SET_CFG(ResourceContext hResourceContext, uint8_t iGPIONum
                               uint8_t iPullEn, uint8_t iDir, uint8_t* iStatus)
 {
     const char* const name = __func__;
-    const auto text = [&]
+    const auto text = [&](FormattedText& line) -> const FormattedText&
     {
-        return FormattedText("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)",
-                             name, iGPIONum, iSelect, iPullUD, iPullEn, iDir, *iStatus);
+        return line.Format("%s(iGPIONum = %i, iSelect = %i, iPullUD = %i, iPullEn = %i, iDir = %i, iStatus = %i)", name,
+                           iGPIONum, iSelect, iPullUD, iPullEn, iDir, *iStatus);
     };
     return Pin(hResourceContext, text, 6, {iGPIONum, iSelect, iPullUD, iPullEn, iDir}, iStatus, {});
 }
@@ -168,10 +170,11 @@ uint8_t TANDEKOR_FTM_MGET_ADC_VAL(ResourceContext hResourceContext, uint16_t iAD
     return With(Ftm(hResourceContext),
                 [&](FtmChannel& ftm)
                 {
-                    const auto text = [&]
+                    FormattedText line;
+                    const auto text = [&]() -> const FormattedText&
                     {
-                        return FormattedText("%s(iADC_Channel = %d, iReadCount = %d, iADC_Sum = %d)", name,
-                                             iADC_Channel, iReadCount, *iADC_Sum);
+                        return line.Format("%s(iADC_Channel = %d, iReadCount = %d, iADC_Sum = %d)", name, iADC_Channel,
+                                           iReadCount, *iADC_Sum);
                     };
                     Trace(hResourceContext, "%s(iADC_Channel = %d, iReadCount = %d)", name, iADC_Channel, iReadCount);
                     if (ftm.Exchange(factory::MgetAdcVal, {iADC_Channel, iReadCount}) == 0)
@@ -190,19 +193,19 @@ uint8_t TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum,
     return With(Ftm(hResourceContext),
                 [&](FtmChannel& ftm)
                 {
-                    const auto text = [&] {
-                        return FormattedText("%s(eNum = %i, sStatus = %i, iValue = %i)", name, eNum, *sStatus, *iValue);
-                    };
+                    FormattedText line;
+                    const auto text = [&]() -> const FormattedText&
+                    { return line.Format("%s(eNum = %i, sStatus = %i, iValue = %i)", name, eNum, *sStatus, *iValue); };
                     ftm.Start(text());
                     if (ftm.Exchange(factory::GgReadReg, {eNum, *sStatus, *iValue}) == 0)
                     {
-                        Trace(hResourceContext, "\t%s - error code = %d\n", text().Text(), ftm.ErrorByte());
+                        text().WriteWithEnding(hResourceContext, " - error code = %d\n", ftm.ErrorByte());
                         return false;
                     }
                     ftm.Take({sStatus, iValue});
                     if (*sStatus == 0)
                         return ftm.Completed(text());
-                    Trace(hResourceContext, "\t%s - Wrong status (%d)\n", text().Text(), *sStatus);
+                    text().WriteWithEnding(hResourceContext, " - Wrong status (%d)\n", *sStatus);
                     return false;
                 });
 }

@@ -21,10 +21,10 @@ constexpr uint8_t mmcRead = 0;
 constexpr uint8_t mmcWrite = 1;
 constexpr uint8_t factoryWrite = 1;
 
-FormattedText ImsiText(const uint8_t* imsi)
+const FormattedText& ImsiText(FormattedText& line, const uint8_t* imsi)
 {
-    return FormattedText("TANDEKOR_FTM_SIM_READ_IMSI(iIMSI_number[9] = {%d, %d, %d, %d, %d, %d, %d, %d, %d })", imsi[0],
-                         imsi[1], imsi[2], imsi[3], imsi[4], imsi[5], imsi[6], imsi[7], imsi[8]);
+    return line.Format("TANDEKOR_FTM_SIM_READ_IMSI(iIMSI_number[9] = {%d, %d, %d, %d, %d, %d, %d, %d, %d })", imsi[0],
+                       imsi[1], imsi[2], imsi[3], imsi[4], imsi[5], imsi[6], imsi[7], imsi[8]);
 }
 
 // The reply's file replaces the caller's, also in the write and whatever the status is.
@@ -53,16 +53,18 @@ uint8_t KcFile(ResourceContext hResourceContext, const char* name, const factory
 // A status word other than 0 is logged like a missing reply.
 uint8_t TANDEKOR_FTM_SIM_READ_IMSI(ResourceContext hResourceContext, uint8_t* iIMSI_number)
 {
-    const FormattedText failure("%s()", __func__);
+    const char* const name = __func__;
     return With(Ftm(hResourceContext),
                 [&](FtmChannel& ftm)
                 {
-                    ftm.Start(ImsiText(iIMSI_number));
+                    FormattedText line;
+                    ftm.Start(ImsiText(line, iIMSI_number));
                     if (ftm.Exchange(factory::SimReadImsi, {}) == 0)
-                        return ftm.NoReply(failure);
+                        return ftm.NoReply(line.Format("%s()", name));
                     ftm.Take({ReplyBytes(iIMSI_number, imsiSize)});
                     const uint16_t status = ftm.TakeStatus();
-                    return status != 0 ? ftm.NoReply(failure, status) : ftm.Completed(ImsiText(iIMSI_number));
+                    return status != 0 ? ftm.NoReply(line.Format("%s()", name), status)
+                                       : ftm.Completed(ImsiText(line, iIMSI_number));
                 });
 }
 

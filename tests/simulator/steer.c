@@ -1,5 +1,5 @@
-/* A line application in C, on the two shared libraries: a phone that fails in four ways, and a record that stops growing.
- * Usage: steer FOLDER [quick] */
+/* A line application in C, on the two shared libraries: a phone that fails in four ways, and a record that stops
+ * growing. Usage: steer FOLDER [quick] */
 #include <stdio.h>
 #include <string.h>
 
