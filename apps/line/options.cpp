@@ -66,7 +66,7 @@ public:
             std::istringstream one(line);
             const std::vector<CLI::ConfigItem> read = ConfigBase::from_config(one);
             if (read.size() != 1 || read.front().name.empty())
-                throw CLI::ConfigError(place + "no key with a value: " + line);
+                throw CLI::ConfigError(std::string(place).append("no key with a value: ").append(line));
             Set(section + read.front().fullname(), read.front().inputs, place, setHere);
         }
     }

@@ -18,7 +18,7 @@ using Selection = std::set<const Test*>;
 std::string Select(const Options& options, Selection& selection);
 
 // An empty text for the name of a test or group, in whatever case.
-std::string UnknownName(const std::string& name);
+std::string UnknownName(const std::string& anyCase);
 
 // Fills the record, of which the start and the log's file are known, and shows each result.
 void Run(const Options& options, const Selection& selection, const Report& report, RunRecord& run);

@@ -16,7 +16,7 @@ bool IsSimulated();
 const char* DefaultStationFile();
 
 // What is wrong with a NAME or NAME:N of --refuse, or an empty text.
-std::string RefusalProblem(const std::string& refusal);
+std::string RefusalProblem(const std::string& text);
 
 // Returns an empty text, or why the phone cannot be had.
 std::string Prepare(const Options& options);

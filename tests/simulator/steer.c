@@ -91,7 +91,11 @@ int main(int count, char** arguments)
     RunCommands(handle, 10000);
     size = Size();
     RunCommands(handle, count > 2 ? 10000 : 1000000);
+#ifndef __SANITIZE_ADDRESS__ /* which keeps what was freed */
     Expect(Size() - size < 64, "a million commands leave the process as large as ten thousand");
+#else
+    (void)size;
+#endif
     TANDEKOR_DisconnectServer(handle);
     return failures == 0 ? 0 : 1;
 }
