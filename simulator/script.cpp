@@ -184,7 +184,7 @@ std::string RunScript(const std::string& path)
     for (int number = 1; std::getline(file, line); ++number)
     {
         if (const std::string error = RunLine(line); !error.empty())
-            return path + ':' + std::to_string(number) + ": " + error;
+            return std::string(path).append(":").append(std::to_string(number)).append(": ").append(error);
     }
     return "";
 }

@@ -137,7 +137,7 @@ std::string SetField(const char* name, const char* command, size_t field, const 
 std::string SetBattery(const std::string& value)
 {
     constexpr uint8_t chargeRegister = 1;
-    const std::string error = SetField("battery", "+CBC", 1, value, 100);
+    std::string error = SetField("battery", "+CBC", 1, value, 100);
     if (error.empty())
         ThePhone().factory.fuelGaugeRegisters[chargeRegister] = static_cast<uint16_t>(*NumberIn(value, 0, 100));
     return error;
