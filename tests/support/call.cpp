@@ -54,7 +54,8 @@ CallResult Arguments::Result(const std::vector<Parameter>& parameters, uint8_t r
 
 Call MakeCall(std::vector<Parameter> parameters, std::vector<Given> all, Invoke invoke)
 {
-    return [=](ResourceContext handle)
+    return
+        [parameters = std::move(parameters), all = std::move(all), invoke = std::move(invoke)](ResourceContext handle)
     {
         Arguments arguments(parameters, all);
         return arguments.Result(parameters, invoke(handle, arguments));
