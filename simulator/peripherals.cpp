@@ -225,12 +225,13 @@ uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext hResourceContext, uint8_t
                                        uint8_t* iMonth, uint8_t* iDay, uint16_t* iYear, uint8_t* iHour,
                                        uint8_t* iMinute, uint8_t* iSecond)
 {
-    const PhoneClock given
+    PhoneClock given
         = {ValueAt(iYear), ValueAt(iMonth), ValueAt(iDay), ValueAt(iHour), ValueAt(iMinute), ValueAt(iSecond)};
     const auto keepOrTell = [&](Phone& phone)
     {
         if (iReadWrite == 0)
         {
+            given.result = phone.clock.result;
             phone.clock = given;
             return;
         }
@@ -241,8 +242,9 @@ uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext hResourceContext, uint8_t
         Put(iMinute, phone.clock.minute);
         Put(iSecond, phone.clock.second);
     };
-    return OnPhoneInFtm(hResourceContext, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode), given.month, given.day,
-                        given.year, given.hour, given.minute, given.second);
+    const uint8_t reached = OnPhoneInFtm(hResourceContext, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode),
+                                         given.month, given.day, given.year, given.hour, given.minute, given.second);
+    return reached == 0 ? uint8_t{0} : ThePhone().clock.result;
 }
 
 // --- camera

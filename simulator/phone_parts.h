@@ -102,6 +102,7 @@ struct PhoneClock
 {
     uint16_t year = 0;
     uint8_t month = 0, day = 0, hour = 0, minute = 0, second = 0;
+    uint8_t result = 1;  // of setting and reading it, where that is carried out
 };
 
 struct Security
@@ -121,7 +122,7 @@ struct UploadScript
     uint32_t steps = 10;
     uint32_t stepTimeMs = 400;
     uint32_t lastStatus = 2;
-    bool succeeds = true;
+    uint8_t result = 1;
 };
 
 struct Pin

@@ -54,7 +54,7 @@ uint8_t RunUpload(const std::string& operation)
         Report(progressEvent, static_cast<uint32_t>(uint64_t{upload.totalSize} * step / upload.steps));
     }
     Report(lastStatusEvent, upload.lastStatus);
-    return upload.succeeds;
+    return upload.result;
 }
 
 }  // namespace
