@@ -14,7 +14,7 @@ constexpr int64_t btAddressLength = 6;
 constexpr uint32_t transistorStatusId = 11;
 constexpr uint32_t readableTransistor = 1;
 
-// An operation on the phone that changes or tells something and cannot fail.
+// An operation on the phone that changes or reports something and cannot fail.
 template <typename Action, typename... Arguments>
 uint8_t OnPhone(ResourceContext hResourceContext, const char* operation, Action action, const Arguments&... arguments)
 {
@@ -81,7 +81,7 @@ uint8_t QLIB_FTM_AUDIO_PCM_CAPTURE(ResourceContext hResourceContext, uint16_t iN
         hResourceContext, __func__, [](Phone& phone) { phone.audio.capturing = true; }, iNumBuffers, iDelay_ms);
 }
 
-// A sawtooth, of which every byte tells its place; nothing without a capture.
+// A sawtooth, in which every byte is its own place; nothing without a capture.
 uint8_t QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(ResourceContext hResourceContext, uint32_t iDataOffset, uint16_t iDataSize,
                                             void* pBuffer)
 {

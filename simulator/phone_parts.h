@@ -70,7 +70,7 @@ struct Keypad
 {
     std::vector<std::pair<uint16_t, uint8_t>> map;  // hardware code and key
     bool detecting = false;
-    std::deque<KeyEvent> queue;  // an empty queue gives key 0, event 0
+    std::deque<KeyEvent> queue;  // an empty queue reports key 0, event 0
 };
 
 struct Bluetooth

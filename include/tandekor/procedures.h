@@ -308,7 +308,7 @@ extern "C"
 
     /*
      * Stores a receiver calibration in one batch of NV writes. After a failure the writes so far stay in the host
-     * library's queue. Every table may be null to be left unchanged; its content is the caller's and is not looked at.
+     * library's queue. Every table may be null to be left unchanged; its content is the caller's and is not checked.
      *
      * [in] bStartBatchMode  passed to the host library; the batch is flushed whatever it is
      * [in, or null] Gsm900Range1[16], Gsm900Range2[16], Gsm900Range3[16], Gsm900Range4[16]  gain ranges of GSM 900
@@ -537,7 +537,7 @@ extern "C"
      * over. The log is muted while the phone restarts, and never left muted.
      *
      * [in]  iSPC          service programming code, six digits; shown in the log
-     * [out] piSPC_Result  as the host library has it; not looked at
+     * [out] piSPC_Result  as the host library has it; not checked
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC,
                                                             uint8_t* piSPC_Result);
@@ -810,7 +810,7 @@ extern "C"
                                                                       uint8_t* pcFmValue);
 
     /*
-     * As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 alone.
+     * As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 only.
      *
      * [in]     iOperationType  1 writes, any other value reads
      * [in]     iDataAddress    0 to 127
