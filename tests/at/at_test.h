@@ -23,7 +23,7 @@ struct SentCommand
 {
     Call call;
     std::string request;  // without the carriage return and the NUL behind it
-    std::string log;
+    std::string log;      // behind TANDEKOR_AT_, and without () at its end
     uint32_t timeoutMs = 3000;
     std::vector<Bytes> writtenOnFailure = {};
 };
@@ -52,7 +52,7 @@ class AtTest : public BenchTest
 {
 protected:
     // The call succeeds with this status, and writes these bytes and no more.
-    void ExpectOuts(const Call& call, uint16_t status, const std::vector<Bytes>& written);
+    void ExpectOuts(const Call& call, uint16_t status, std::vector<Bytes> written);
 };
 
 }  // namespace tandekor::test
