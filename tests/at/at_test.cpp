@@ -24,6 +24,15 @@ void ExpectWritten(const CallResult& call, const std::vector<Bytes>& written)
     }
 }
 
+std::string LogOf(const SentCommand& command)
+{
+    const std::string kind = command.request.find('=') == std::string::npos ? "Get_" : "Set_";
+    const std::string name = kind + command.request.substr(1, command.request.find_first_of("=?") - 1);
+    const bool whole = !command.log.empty() && command.log[0] != '(';
+    const std::string log = whole ? command.log : name + command.log;
+    return "TANDEKOR_AT_" + log + (log.find('(') == std::string::npos ? "()" : "");
+}
+
 }  // namespace
 
 std::string Dense(const std::string& head, const std::string& entry)
@@ -53,7 +62,7 @@ TEST_F(AtTest, EveryCommandIsLoggedAndThenSentOnceAndAFailedExchangeWritesNothin
     {
         for (const SentCommand& command : table.commands)
         {
-            SCOPED_TRACE(command.log + " " + command.request);
+            SCOPED_TRACE(LogOf(command) + " " + command.request);
             simulator::ForgetCalls();
             simulator::ForgetLog();
             size_t textsAtExchange = 0;
@@ -63,11 +72,10 @@ TEST_F(AtTest, EveryCommandIsLoggedAndThenSentOnceAndAFailedExchangeWritesNothin
 
             EXPECT_EQ(call.result, 0);
             ExpectWritten(call, command.writtenOnFailure);
-            EXPECT_EQ(LastRequest(), ToHex(Ascii(command.request + "\r" + '\0')));
+            EXPECT_EQ(LastRequest(), ToHex(Ascii("AT" + command.request + "\r" + '\0')));
             EXPECT_EQ(LastTimeoutMs(), command.timeoutMs);
             EXPECT_EQ(CountExchanges(), 1U);
-            const std::string end = command.log.find('(') == std::string::npos ? "()" : "";
-            EXPECT_EQ(Log(), std::vector<std::string>{"TANDEKOR_AT_" + command.log + end});
+            EXPECT_EQ(Log(), std::vector<std::string>{LogOf(command)});
             EXPECT_EQ(textsAtExchange, 1U);
         }
     }

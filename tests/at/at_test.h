@@ -22,8 +22,8 @@ std::string Dense(const std::string& head, const std::string& entry);
 struct SentCommand
 {
     Call call;
-    std::string request;  // without the carriage return and the NUL behind it
-    std::string log;      // behind TANDEKOR_AT_, and without () at its end
+    std::string request;   // without AT, and without the carriage return and the NUL behind it
+    std::string log = {};  // behind TANDEKOR_AT_; in parentheses only what follows Get_CMUT or Set_CMUT; () if empty
     uint32_t timeoutMs = 3000;
     std::vector<Bytes> writtenOnFailure = {};
 };

@@ -26,18 +26,18 @@ const uint32_t noNumber = UINT32_MAX;
 const std::vector<Bytes> nothing = {{}, {}, {}, {}, {}, U32(0)};
 
 const std::vector<SentCommand> commands = {
-    {cmgl, "AT+CMGL=4", "CMGL", 3000, nothing},
-    {ListWith(TANDEKOR_AT_CMGL, 255), "AT+CMGL=0", "CMGL", 3000, nothing},
-    {ListWith(TANDEKOR_AT_SMGL, 12), "AT^SMGL=1", "SMGL", 3000, nothing},
-    {ListWith(TANDEKOR_AT_SMGL, 255), "AT^SMGL=0", "SMGL", 3000, nothing},
-    {cmgr, "AT+CMGR=7", "Set_CMGR"},
-    {With(TANDEKOR_AT_Set_CMGR, {10, 1}), "AT+CMGR=10", "Set_CMGR"},
-    {With(TANDEKOR_AT_Set_CMGR, {100, 1}), "AT+CMGR=100", "Set_CMGR"},
-    {With(TANDEKOR_AT_Set_CMGR, {101, 1}), "AT+CMGR=", "Set_CMGR"},
-    {smgr, "AT^SMGR=7", "Set_SMGR"},
-    {With(TANDEKOR_AT_Set_SMGR, {65535, 1}), "AT^SMGR=", "Set_SMGR"},
-    {With(TANDEKOR_AT_CMSS, {12, "-"}), "AT+CMSS=1", "CMSS"},
-    {With(TANDEKOR_AT_CMSS, {3, "+49172123456789"}), "AT+CMSS=3,\"+49172123456\"", "CMSS"},
+    {cmgl, "+CMGL=4", "CMGL", 3000, nothing},
+    {ListWith(TANDEKOR_AT_CMGL, 255), "+CMGL=0", "CMGL", 3000, nothing},
+    {ListWith(TANDEKOR_AT_SMGL, 12), "^SMGL=1", "SMGL", 3000, nothing},
+    {ListWith(TANDEKOR_AT_SMGL, 255), "^SMGL=0", "SMGL", 3000, nothing},
+    {cmgr, "+CMGR=7"},
+    {With(TANDEKOR_AT_Set_CMGR, {10, 1}), "+CMGR=10"},
+    {With(TANDEKOR_AT_Set_CMGR, {100, 1}), "+CMGR=100"},
+    {With(TANDEKOR_AT_Set_CMGR, {101, 1}), "+CMGR="},
+    {smgr, "^SMGR=7"},
+    {With(TANDEKOR_AT_Set_SMGR, {65535, 1}), "^SMGR="},
+    {With(TANDEKOR_AT_CMSS, {12, "-"}), "+CMSS=1", "CMSS"},
+    {With(TANDEKOR_AT_CMSS, {3, "+49172123456789"}), "+CMSS=3,\"+49172123456\"", "CMSS"},
 };
 
 // Rows of data, of which each but the last is filled up with what the caller had.
