@@ -164,33 +164,28 @@ using AtTextParametersTest = AtTest;
 // A command that outgrows the 4096 bytes of a request is logged, but not sent.
 TEST_F(AtTextParametersTest, TextsThatOutgrowTheRequestAreNotSent)
 {
-    const struct
-    {
-        Call (*with)(const std::string&);
-        const char* log;
-        size_t longest;
-        char fill;
-    } cases[] = {
+    // A call with a text, its log, how long the text may be, and of what it is.
+    const std::tuple<Call (*)(const std::string&), const char*, size_t, char> cases[] = {
         {Keys, "TANDEKOR_AT_Set_CKPD(Keys: 5", 4086, '5'}, {Pin, "TANDEKOR_AT_Set_CPIN()", 4084, '5'},
         {CentreOf, "TANDEKOR_AT_Set_CSCA()", 4084, '5'},   {Channels, "TANDEKOR_AT_Set_CSCB()", 4082, '5'},
         {Schemes, "TANDEKOR_AT_Set_CSCB()", 4079, '\5'},   {CrsmWith, "TANDEKOR_AT_CRSM()", 4074, '\5'},
     };
-    for (const auto& row : cases)
+    for (const auto& [with, log, longest, fill] : cases)
     {
-        for (const size_t length : {row.longest, row.longest + 1})
+        for (const size_t length : {longest, longest + 1})
         {
-            SCOPED_TRACE(row.log + std::to_string(length));
+            SCOPED_TRACE(log + std::to_string(length));
             simulator::ForgetLog();
             simulator::ForgetCalls();
-            const bool fits = length == row.longest;
+            const bool fits = length == longest;
             if (fits)
                 Replies("OK");
-            const CallResult call = row.with(std::string(length, row.fill))(handle);
+            const CallResult call = with(std::string(length, fill))(handle);
             EXPECT_EQ(call.result, fits ? 1 : 0);
             EXPECT_EQ(call.written.back(), fits);
             EXPECT_EQ(CountExchanges(), fits ? 1U : 0U);
             EXPECT_TRUE(!fits || simulator::Exchanges().back().request.size() == 4096);
-            EXPECT_TRUE(Log().size() == 1 && Log()[0].starts_with(row.log));
+            EXPECT_TRUE(Log().size() == 1 && Log()[0].starts_with(log));
         }
     }
     EXPECT_EQ(With(TANDEKOR_AT_Set_CKPD, {std::string(20000, '5'), 1, 1})(handle).result, 0);

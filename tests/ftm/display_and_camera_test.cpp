@@ -112,29 +112,23 @@ TEST_F(ModelRequestsTest, KeypadLightGoesByFactoryRequestButForTwoRowsOfModel3)
 {
     const std::string row = "\tParameter RowNumber over the range (1-7).";
     const std::string state = "\tParameter BackLightOn over the range (0-1).";
-    const struct
-    {
-        int version, model;
-        uint16_t row;
-        uint8_t on;
-        const char* data;     // of the request; null if none is sent
-        std::string closing;  // where none is sent
-    } cases[] = {
+    // Version and model, row and state, the data of the request, or the closing text if none is sent.
+    const std::tuple<int, int, uint16_t, uint8_t, const char*, std::string> cases[] = {
         {0, 52, 3, 1, "1F", ""},          {9, 54, 1, 0, "0A", ""},        {10, 34, 7, 1, "47", ""},
         {6, 0, 5, 0, "32", ""},           {0, 52, 0, 1, nullptr, row},    {0, 52, 8, 1, nullptr, row},
         {0, 52, 0x0103, 2, nullptr, row}, {0, 52, 7, 2, nullptr, state},  {3, 3, 2, 1, "15", ""},
         {3, 3, 8, 1, nullptr, row},       {3, 3, 6, 255, nullptr, state},
     };
-    for (const auto& one : cases)
+    for (const auto& [version, model, place, on, data, closing] : cases)
     {
-        const bool sent = one.data != nullptr;
-        const std::string numbers = std::to_string(one.row) + ", backLightOn = " + std::to_string(one.on);
-        SCOPED_TRACE("model " + std::to_string(one.model) + " row " + numbers);
-        EXPECT_EQ(Run(Light(one.row, one.on), sent ? 1 : 0, one.version),
-                  one.model == 3 ? "\nDRAVOK not support, only row 5 and 7! " : "");
-        ExpectLog({keypad + "()", asks}, {sent ? "\t" + keypad + "(rowNumber = " + numbers + ")" + done : one.closing});
+        const bool sent = data != nullptr;
+        const std::string numbers = std::to_string(place) + ", backLightOn = " + std::to_string(on);
+        SCOPED_TRACE("model " + std::to_string(model) + " row " + numbers);
+        EXPECT_EQ(Run(Light(place, on), sent ? 1 : 0, version),
+                  model == 3 ? "\nDRAVOK not support, only row 5 and 7! " : "");
+        ExpectLog({keypad + "()", asks}, {sent ? "\t" + keypad + "(rowNumber = " + numbers + ")" + done : closing});
         EXPECT_EQ(CountExchanges(), sent ? 2U : 1U);
-        EXPECT_EQ(LastRequest(), sent ? "4B 0B 00 80 F5 00 04 00 0C 00 " + std::string(one.data) + " 00 00 00"
+        EXPECT_EQ(LastRequest(), sent ? "4B 0B 00 80 F5 00 04 00 0C 00 " + std::string(data) + " 00 00 00"
                                       : "4B 0B 00 80 1D 00 00 00 0E 00");
     }
 }
@@ -174,24 +168,20 @@ TEST_F(ModelRequestsTest, KeypadLightWithoutAReplyOrWithAStatusOrAModel)
 
 TEST_F(ModelRequestsTest, SliderStateFollowsFromWordAndModelAndTheHintSavesTheQuestion)
 {
-    const struct
-    {
-        uint8_t hint;
-        uint16_t version;
-        Bytes states;  // by the words 0, 1, 2, 3, 4 and 0x0103, and without a reply
-    } cases[] = {
+    // Hint and version, and the states by the words 0, 1, 2, 3, 4 and 0x0103, and without a reply.
+    const std::tuple<uint8_t, uint16_t, Bytes> cases[] = {
         {0, 3, {1, 0, 0, 0, 0, 0, 1}},  {52, 3, {0, 2, 3, 1, 3, 3, 0}}, {0, 0, {0, 2, 3, 1, 3, 3, 0}},
         {53, 3, {3, 1, 0, 2, 3, 3, 3}}, {54, 3, {3, 1, 0, 2, 3, 3, 3}}, {55, 3, {3, 1, 0, 2, 3, 3, 3}},
         {51, 1, {3, 1, 0, 2, 3, 3, 3}}, {56, 3, {1, 0, 0, 0, 0, 0, 1}}, {3, 10, Bytes(7, 'q')},
     };
     const uint16_t words[] = {0, 1, 2, 3, 4, 0x0103};
-    for (const auto& row : cases)
+    for (const auto& [hint, version, states] : cases)
     {
-        simulator::ThePhone().hardwareId = row.version;
-        const bool asked = row.hint < 52 || row.hint > 55;
+        simulator::ThePhone().hardwareId = version;
+        const bool asked = hint < 52 || hint > 55;
         for (size_t i = 0; i <= std::size(words); ++i)
         {
-            SCOPED_TRACE("hint " + std::to_string(row.hint) + ", version " + std::to_string(row.version) + ", word "
+            SCOPED_TRACE("hint " + std::to_string(hint) + ", version " + std::to_string(version) + ", word "
                          + std::to_string(i));
             const bool answers = i < std::size(words);
             if (answers)
@@ -199,9 +189,9 @@ TEST_F(ModelRequestsTest, SliderStateFollowsFromWordAndModelAndTheHintSavesTheQu
             else
                 simulator::BeforeCall("QLIB_SendSync", asked ? 2 : 1, [] { FailsToReply(); });
             simulator::ForgetCalls();
-            const CallResult made = Slider(row.hint)(handle);
-            EXPECT_EQ(made.result, answers && row.states[0] != 'q' ? 1 : 0);
-            EXPECT_EQ(made.outs[0], Bytes{row.states[i]});
+            const CallResult made = Slider(hint)(handle);
+            EXPECT_EQ(made.result, answers && states[0] != 'q' ? 1 : 0);
+            EXPECT_EQ(made.outs[0], Bytes{states[i]});
             EXPECT_EQ(CountExchanges(), asked ? 2U : 1U);
             EXPECT_EQ(LastRequest(), "4B 0B 00 80 F6 00 00 00 0C 00");
         }

@@ -94,27 +94,22 @@ TEST_F(FmRadioTest, TuningTakesItsStatusFromWhateverArrivesAnd3IsGoodToo)
 
 TEST_F(FmRadioTest, BlocksAreTakenWhateverTheirStatusIsAndCloseWithTextsOfTheirOwnLine)
 {
-    const struct
-    {
-        Call call;
-        std::string name;
-        Numbers outs, ofAShortReply;
-    } rows[] = {
+    const std::tuple<Call, std::string, Numbers, Numbers> rows[] = {
         {scan, "SCAN_ALL_RF()", Scan({0, 13, 14}, 0), Scan({0, 0, 0}, 0)},
         {stationInfo, "GET_STATION_INFO()", station, Numbers(11)},
         {programInfo, "GET_PROGRAM_INFO()", Program({0, 0x0E0D, 15}, 95, {25, 26}), Program({0, 0, 0}, 0, {0, 0})},
     };
-    for (const auto& row : rows)
+    for (const auto& [call, name, outs, ofAShortReply] : rows)
     {
-        Numbers refused = row.outs, untouched = row.outs;
+        Numbers refused = outs, untouched = outs;
         refused[0] = 200;
         for (uint32_t& number : untouched)
             number = number > 0xFF ? 0x5555 : 0x55;
         ExpectAnswers({
-            {row.call, "=" + Block(), 1, row.outs, {blocks + row.name + done}},
-            {row.call, "=" + Block({{10, 200}}), 0, refused, {blocks + row.name + " - error code = 200"}},
-            {row.call, "=" + ToHex(Bytes(110, 7)), 1, row.ofAShortReply, {blocks + row.name + done}},
-            {row.call, "!" + Block(), 0, untouched, {blocks + row.name + " - SendSync() fail (error code = 0)"}},
+            {call, "=" + Block(), 1, outs, {blocks + name + done}},
+            {call, "=" + Block({{10, 200}}), 0, refused, {blocks + name + " - error code = 200"}},
+            {call, "=" + ToHex(Bytes(110, 7)), 1, ofAShortReply, {blocks + name + done}},
+            {call, "!" + Block(), 0, untouched, {blocks + name + " - SendSync() fail (error code = 0)"}},
         });
     }
 }

@@ -55,12 +55,8 @@ protected:
 TEST_F(FileOperationsTest, GetWritesBodiesToTheHostFileAndLeavesWhatCame)
 {
     WriteHostFile("f", Ascii("what was there before, and is longer"));
-    const struct
-    {
-        const char* replies;
-        uint16_t bits;
-        const char* text;  // none: there is no host file
-    } rows[] = {
+    // What the phone replies, the error, and the host file after it.
+    const std::tuple<const char*, uint16_t, std::string> rows[] = {
         {"continue id size:9 body:ab;continue size:0 body:cd;continue body:;continue id 48 00 05 0D 0A;done end:", 0,
          "abcd\r\n"},
         {"continue 48 00 05 65 66 67 68;done id end:ij", 0, "ef"},
@@ -84,25 +80,19 @@ TEST_F(FileOperationsTest, GetWritesBodiesToTheHostFileAndLeavesWhatCame)
         {"continue body:ab;refused", 32, "ab"},
         {"continue body:ab;continue body:cd;missing", 64, "abcd"},
     };
-    for (const auto& row : rows)
+    for (const auto& [replies, bits, text] : rows)
     {
-        if (row.text == std::string("none"))
+        if (text == "none")
             std::filesystem::remove(HostPath("f"));
-        ExpectSessions({{GetTo(hostFolder), GetTurns("name:f", row.replies), row.bits}});
-        EXPECT_EQ(HostText("f"), row.text);
+        ExpectSessions({{GetTo(hostFolder), GetTurns("name:f", replies), bits}});
+        EXPECT_EQ(HostText("f"), text);
     }
 }
 
 TEST_F(FileOperationsTest, ListingIsPutTogetherInTheCallersBuffer)
 {
-    const struct
-    {
-        const char* replies;
-        uint32_t capacity;
-        uint16_t bits;
-        uint32_t sizeAfter;
-        std::string content;
-    } rows[] = {
+    // What the phone replies, the size of the buffer, the error, the size after it and the content.
+    const std::tuple<const char*, uint32_t, uint16_t, uint32_t, std::string> rows[] = {
         {"continue body:abcd;done end:", 8, 0, 4, "abcd"},
         {"continue id body:abcd;continue body:ef;continue body:;done id end:", 8, 0, 6, "abcdef"},
         {"done end:", 8, 0, 0, ""},
@@ -129,15 +119,13 @@ TEST_F(FileOperationsTest, ListingIsPutTogetherInTheCallersBuffer)
         {"continue id", 8, 8, 8, ""},
         {"continue body:ab;done id", 8, 8, 8, "ab"},
     };
-    for (const auto& row : rows)
+    for (const auto& [replies, capacity, bits, sizeAfter, content] : rows)
     {
-        Bytes expected = Ascii(row.content);
-        expected.resize(row.capacity, 0x55);
-        ExpectSessions({{With(TANDEKOR_OBEX_ListDir, {"", Out{row.capacity}, U32(row.capacity)}),
-                         GetTurns("42 00 19 text:x-obex/folder-listing 00", row.replies),
-                         row.bits,
-                         1,
-                         {expected, U32(row.sizeAfter)}}});
+        Bytes expected = Ascii(content);
+        expected.resize(capacity, 0x55);
+        const std::string turns = GetTurns("42 00 19 text:x-obex/folder-listing 00", replies);
+        const Call list = With(TANDEKOR_OBEX_ListDir, {"", Out{capacity}, U32(capacity)});
+        ExpectSessions({{list, turns, bits, 1, {expected, U32(sizeAfter)}}});
     }
 }
 

@@ -17,12 +17,7 @@ using ObexSessionTest = ObexTest;
 
 TEST_F(ObexSessionTest, ConnectRepliesAreScannedByteByByte)
 {
-    const struct
-    {
-        const char* what;
-        std::string reply;
-        bool good;
-    } rows[] = {
+    const std::tuple<const char*, std::string, bool> rows[] = {
         {"identifier 0 and no Who header", "done 10 00 10 00 CB 00 00 00 00", false},
         {"no headers, and no identifier of an earlier session", "done 10 00 10 00", false},
         {"one byte, and no identifier of an earlier session", "A0", false},
@@ -42,13 +37,13 @@ TEST_F(ObexSessionTest, ConnectRepliesAreScannedByteByByte)
         {"refused", "C1 00 1F 10 00 10 00 id" + who, false},
         {"nothing", "", false},
     };
-    for (const auto& row : rows)
+    for (const auto& [what, reply, good] : rows)
     {
-        SCOPED_TRACE(row.what);
-        if (row.good)
-            ExpectTurns({walkNowhere, connect + row.reply + disconnected});
+        SCOPED_TRACE(what);
+        if (good)
+            ExpectTurns({walkNowhere, connect + reply + disconnected});
         else
-            ExpectTurns({walkNowhere, connect + row.reply, 1, 0});
+            ExpectTurns({walkNowhere, connect + reply, 1, 0});
     }
 }
 
