@@ -27,10 +27,8 @@ struct FtmRequest
 };
 
 // The requests by subject, each function at least once.
-std::vector<FtmRequest> LowLevelRequests();
-std::vector<FtmRequest> PhoneDataRequests();
-std::vector<FtmRequest> FmRadioRequests();
-std::vector<FtmRequest> DisplayAndCameraRequests();
+std::vector<FtmRequest> DataAccessRequests();
+std::vector<FtmRequest> DisplayCameraAndRadioRequests();
 
 std::vector<Call> FtmCalls();
 

@@ -40,7 +40,7 @@ const std::vector<FtmRequest>& Requests()
             {oscillator, "D6 00 02 00 0C 00 55 01", "FTM_RTC_OSC_CTRL(bStatus = 85, bSwitch = 1)"},
             {tracer, "D9 00 02 00 0C 00 07 FF", "FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
         };
-        for (auto* more : {LowLevelRequests, PhoneDataRequests, FmRadioRequests, DisplayAndCameraRequests})
+        for (auto* more : {DataAccessRequests, DisplayCameraAndRadioRequests})
         {
             for (const FtmRequest& request : more())
                 all.push_back(request);
