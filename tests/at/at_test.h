@@ -42,10 +42,8 @@ struct AtTable
     std::vector<ReadReply> replies;
     std::vector<std::string> dense = {};
 };
-AtTable SingleValues();
-AtTable StructuredQueries();
-AtTable TextParameters();
-AtTable Messages();
+AtTable ValueCommands();
+AtTable TextCommands();
 std::vector<AtTable> AllAtCommands();
 
 class AtTest : public BenchTest

@@ -37,6 +37,37 @@ Call Schemes(const std::string& text) { return With(TANDEKOR_AT_Set_CSCB, {1, ""
 Call CrsmWith(const std::string& text) { return Crsm(1, 2, 3, 4, 5, text); }
 const Call crsmStatus = Crsm(242, -1, 0, 0, 0, "-");
 
+// Arrays for any reply.
+constexpr size_t mostMessages = 512;
+constexpr size_t rowSize = 1024;
+
+template <typename List>
+Call ListWith(List* list, int filter)
+{
+    return With(list, {filter, Out{mostMessages * 4}, Out{mostMessages * 4}, Out{mostMessages * 4},
+                       Out{mostMessages * 4}, Out{mostMessages * rowSize}});
+}
+
+const Call cmgl = ListWith(TANDEKOR_AT_CMGL, 4);
+const Call smgl = ListWith(TANDEKOR_AT_SMGL, 4);
+const Call cmgr = With(TANDEKOR_AT_Set_CMGR, {7, 10, Out{2}, Out{1}, Out{10}});
+const Call smgr = With(TANDEKOR_AT_Set_SMGR, {7, 200, Out{2}, Out{1}, Out{200}});
+const Call cmgrOfNothing = With(TANDEKOR_AT_Set_CMGR, {7, 0});
+
+const std::vector<Bytes> nothing = {{}, {}, {}, {}, {}, U32(0)};
+
+// Rows of data, of which each but the last is filled up with what the caller had.
+Bytes Rows(const std::vector<std::string>& texts)
+{
+    Bytes rows;
+    for (const std::string& text : texts)
+    {
+        rows.resize((rows.size() + rowSize - 1) / rowSize * rowSize, 0x55);
+        rows.insert(rows.end(), text.begin(), text.end());
+    }
+    return rows;
+}
+
 const std::vector<SentCommand> commands = {
     {With(TANDEKOR_AT_Set_CKPD, {"123", 5, 0xFFFF}), "+CKPD=123,5", "(Keys: 123, Time: 5, Pause: 65535)"},
     {With(TANDEKOR_AT_Set_CKPD, {"%s#", 0xFFFF, 5}), "+CKPD=%s#", "(Keys: %s#, Time: 65535, Pause: 5)"},
@@ -80,6 +111,18 @@ const std::vector<SentCommand> commands = {
     {Crsm(7, 0, 1, 2, 3, "-\1"), "+CRSM=007,0,1,2,3", "CRSM"},
     {Crsm(0, 12258, 1, -1, 3, "\1"), "+CRSM=000,12258", "CRSM"},
     {Crsm(255, -1, 1, 2, 3, "\1"), "+CRSM=255", "CRSM"},
+    {cmgl, "+CMGL=4", "CMGL", 3000, nothing},
+    {ListWith(TANDEKOR_AT_CMGL, 255), "+CMGL=0", "CMGL", 3000, nothing},
+    {ListWith(TANDEKOR_AT_SMGL, 12), "^SMGL=1", "SMGL", 3000, nothing},
+    {ListWith(TANDEKOR_AT_SMGL, 255), "^SMGL=0", "SMGL", 3000, nothing},
+    {cmgr, "+CMGR=7"},
+    {With(TANDEKOR_AT_Set_CMGR, {10, 1}), "+CMGR=10"},
+    {With(TANDEKOR_AT_Set_CMGR, {100, 1}), "+CMGR=100"},
+    {With(TANDEKOR_AT_Set_CMGR, {101, 1}), "+CMGR="},
+    {smgr, "^SMGR=7"},
+    {With(TANDEKOR_AT_Set_SMGR, {65535, 1}), "^SMGR="},
+    {With(TANDEKOR_AT_CMSS, {12, "-"}), "+CMSS=1", "CMSS"},
+    {With(TANDEKOR_AT_CMSS, {3, "+49172123456789"}), "+CMSS=3,\"+49172123456\"", "CMSS"},
 };
 
 const Bytes untouched = {};
@@ -148,55 +191,6 @@ const std::vector<ReadReply> replies = {
     {crsmStatus, Reply("AT+CRSM=176,28421", "+CRSM: 144,0"), {U32(1), U32('\r' - '0'), none}},
     {crsmStatus, "AT+CRSM=242\r\r\n+CRSM: 14", {U32(14), U32(noNumber), none}},
     {crsmStatus, "AT+CRSM=242\r\r\nERROR", {U32(noNumber), U32(noNumber), none}},
-};
-
-// Arrays for any reply.
-constexpr size_t mostMessages = 512;
-constexpr size_t rowSize = 1024;
-
-template <typename List>
-Call ListWith(List* list, int filter)
-{
-    return With(list, {filter, Out{mostMessages * 4}, Out{mostMessages * 4}, Out{mostMessages * 4},
-                       Out{mostMessages * 4}, Out{mostMessages * rowSize}});
-}
-
-const Call cmgl = ListWith(TANDEKOR_AT_CMGL, 4);
-const Call smgl = ListWith(TANDEKOR_AT_SMGL, 4);
-const Call cmgr = With(TANDEKOR_AT_Set_CMGR, {7, 10, Out{2}, Out{1}, Out{10}});
-const Call smgr = With(TANDEKOR_AT_Set_SMGR, {7, 200, Out{2}, Out{1}, Out{200}});
-const Call cmgrOfNothing = With(TANDEKOR_AT_Set_CMGR, {7, 0});
-
-const std::vector<Bytes> nothing = {{}, {}, {}, {}, {}, U32(0)};
-
-const std::vector<SentCommand> messageCommands = {
-    {cmgl, "+CMGL=4", "CMGL", 3000, nothing},
-    {ListWith(TANDEKOR_AT_CMGL, 255), "+CMGL=0", "CMGL", 3000, nothing},
-    {ListWith(TANDEKOR_AT_SMGL, 12), "^SMGL=1", "SMGL", 3000, nothing},
-    {ListWith(TANDEKOR_AT_SMGL, 255), "^SMGL=0", "SMGL", 3000, nothing},
-    {cmgr, "+CMGR=7"},
-    {With(TANDEKOR_AT_Set_CMGR, {10, 1}), "+CMGR=10"},
-    {With(TANDEKOR_AT_Set_CMGR, {100, 1}), "+CMGR=100"},
-    {With(TANDEKOR_AT_Set_CMGR, {101, 1}), "+CMGR="},
-    {smgr, "^SMGR=7"},
-    {With(TANDEKOR_AT_Set_SMGR, {65535, 1}), "^SMGR="},
-    {With(TANDEKOR_AT_CMSS, {12, "-"}), "+CMSS=1", "CMSS"},
-    {With(TANDEKOR_AT_CMSS, {3, "+49172123456789"}), "+CMSS=3,\"+49172123456\"", "CMSS"},
-};
-
-// Rows of data, of which each but the last is filled up with what the caller had.
-Bytes Rows(const std::vector<std::string>& texts)
-{
-    Bytes rows;
-    for (const std::string& text : texts)
-    {
-        rows.resize((rows.size() + rowSize - 1) / rowSize * rowSize, 0x55);
-        rows.insert(rows.end(), text.begin(), text.end());
-    }
-    return rows;
-}
-
-const std::vector<ReadReply> messageReplies = {
     {cmgl,
      Reply("AT+CMGL=4", "+CMGL: 3,1,,25\r\n07914912"),
      {U32(3), U32(1), U32(noNumber), U32(25), Rows({"07914912"}), U32(1)}},
@@ -239,12 +233,13 @@ const std::vector<ReadReply> messageReplies = {
 
 }  // namespace
 
-AtTable TextParameters()
+AtTable TextCommands()
 {
     return {commands,
             replies,
             {Dense("\r\n+CLCK", ": 1"), Dense("\r\n+CLCK", ": 1,"), Dense("\n", "0x,+,1,1,"),
-             Dense("\r\n+CCWA:", "1,x "), Dense("AT+CRSM=242  144,0,\"", "x")}};
+             Dense("\r\n+CCWA:", "1,x "), Dense("AT+CRSM=242  144,0,\"", "x"), Dense("\r", "\n+: 1,1,,1\r\n\r"),
+             Dense("\r", "\n^: 1,1,,1\r\n\r"), Dense("\r\n+CMGR: 1,,4000\r\n", "x")}};
 }
 
 using AtTextParametersTest = AtTest;
@@ -278,13 +273,6 @@ TEST_F(AtTextParametersTest, TextsThatOutgrowTheRequestAreNotSent)
     }
     EXPECT_EQ(With(TANDEKOR_AT_Set_CKPD, {std::string(20000, '5'), 1, 1})(handle).result, 0);
     EXPECT_EQ(Log().back(), "TANDEKOR_AT_Set_CKPD(Keys: " + std::string(12291 - 27, '5'));
-}
-
-AtTable Messages()
-{
-    return {messageCommands,
-            messageReplies,
-            {Dense("\r", "\n+: 1,1,,1\r\n\r"), Dense("\r", "\n^: 1,1,,1\r\n\r"), Dense("\r\n+CMGR: 1,,4000\r\n", "x")}};
 }
 
 using AtMessagesTest = AtTest;

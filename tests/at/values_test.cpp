@@ -98,7 +98,6 @@ const std::vector<ReadReply> edges = {
     {With(TANDEKOR_AT_Get_SCKA), Reply("AT^SCKA?", "^SCKA: 0"), {U32(0)}},
     {With(TANDEKOR_AT_Get_SCKS), Reply("AT^SCKS?", "^SCKS: 2, 1"), {U32(2), U32(1)}},
     {With(TANDEKOR_AT_Get_SCKS), Reply("AT^SCKS?", "^SCKS: 2,1"), {U32(0xFFFFFFF0), U32(1)}},
-    {With(TANDEKOR_AT_Get_SCKS), "A12", {{}, U32(2)}},
     {With(TANDEKOR_AT_Get_SCKS), "A123", {U32('A' - '0'), U32(3)}},
     // The end of a reply without echo is looked for nine bytes early as well.
     {With(TANDEKOR_AT_Get_CPAS), Reply("", "+CPAS: 4"), {}},
@@ -176,27 +175,13 @@ const std::vector<ReadReply> replies = {
     {getCclk, "AT+CCLK?\r\r\n+CCLK: \"06/1", {{6}, {10}, {0}, {0}, {0}, {0}, {0}}},
     {getCclk, std::string(4096, '7'), {{77}, {77}, {77}, {77}, {77}, {77}, {77}}},
     {getCmer, Reply("AT+CMER?", "+CMER: 3,9,8,2,1"), {{3}, {2}, {1}}},
-    {getCmer, "AT+CMER?\r\r\nERROR", {{0}, {0}, {0}}},
     {getCacm, Reply("AT+CACM?", "+CACM: \"00F123\""), {U16(123)}},
-    {getCacm, "AT+CACM?\r\r\n+CACM: \"12", {U16(54464)}},
-    {getCamm, Reply("", "+CAMM: \"070000\""), {U16(4464)}},
     {getSacm, Reply("AT^SACM?", "^SACM: 1,\"000300\",\"000200\""), {{1}, {44}, {200}}},
     {getSacm, "", {{0}, {0}, {0}}},
-    {getCbc, Reply("AT+CBC", "+CBC: 0,100"), {{0}, {100}}},
-    {getCbc, Reply("AT+CBC", "+CBC: 1,85"), {{1}, {85}}},
-    {getCbc, Reply("at+cbc", "+CBC: 2,7"), {{2}, {7}}},
-    {getCbc, "AT+CBC\r\r\n+CBC: 0,999", {{0}, {231}}},
     {getCreg, Reply("AT+CREG?", "+CREG: 2,5,1A,2B"), {{2}, {5}, {'1', 'A'}, {'2', 'B'}}},
     {getCreg, Reply("", "+CREG: 0,1"), {{0}, {1}, {'-'}, {'-'}}},
     {getCreg, "AT+CREG?\r\r\n+CREG: 2,5,1", {{2}, {5}, {'1', 0xBB}, {0xBB, 0xBB}}},
-    {getCsq, Reply("AT+CSQ", "+CSQ: 21,99"), {{21}, {99}}},
-    {getCsq, Reply("AT+CSQ", "+CSQ: 5,3"), {{5}, {3}}},
-    {getCsq, Reply("AT+CSQ", "+CSQ: 31,0"), {{31}, {0}}},
-    {getCsq, "AT+CSQ\r\r\n+CSQ: 9,12", {{9}, {12}}},
-    {getCsq, "AT+CSQ\r\r\n+CSQ: 21", {untouched, {21}}},
     {getCsq, "A12", {untouched, {12}}},
-    {getCsq, "AT+CSQ\r\r\nERROR", {untouched, untouched}},
-    {getCsq, std::string(4096, '7'), {{77}, {77}}},
     // Without echo the end is looked for nine bytes early.
     {getCsq, Reply("", "+CSQ: 21,99"), {untouched, {21}}},
     {getCind, Reply("AT+CIND?", "+CIND: 1,2,3,4,5,6,7,8"), {{'1'}, {'2'}, {'3'}, {'4'}, {'5'}, {'6'}, {'7'}, {'8'}}},
@@ -204,15 +189,8 @@ const std::vector<ReadReply> replies = {
     {getCind, "", {}},
     {getCbst, Reply("AT+CBST?", "+CBST: 7,0,1"), {U32(7), {'0'}, {'1'}}},
     {getCbst, Reply("AT+CBST?", "+CBST: 71,4,3"), {U32(71), {'4'}, {'3'}}},
-    {getCbst, "A: x,0,1", {U32('x' - '0'), {'0'}, {'1'}}},
-    {getCbst, "A,0,1", {U32('A' - '0'), {'0'}, {'1'}}},
     {getCbst, "A1,2", {untouched, {'1'}, {'2'}}},
     {getCbst, "AT+CBST?\r\r\nERROR", {}},
-    {getSifs, Reply("AT^SIFS", "^SIFS: IrDA"), {{1}}},
-    {getSifs, Reply("AT^SIFS", "^SIFS: Bluetooth"), {{2}}},
-    {getSifs, "AT^SIFS\r\r\n^SIFS: Wireless", {{3}}},
-    {getSifs, Reply("AT^SIFS", "^SIFS: wire"), {{0}}},
-    {getSifs, "AT^SIFS\r\r\n^SIFS: Bluetoot", {{0}}},
     {getSifs, "", {{0}}},
     {getCeer, Reply("AT+CEER", "+CEER: Busy"), {Ascii("Busy\r\n\r\n")}},
     {getCgmi, Reply("AT+CGMI", "MAKER"), {Ascii("MAKER\r\n\r\n")}},
@@ -240,13 +218,30 @@ const std::vector<ReadReply> replies = {
     {getCgact, "AT+CGACT?\r\r\n+CGACT: 1,1\r\n+CGACT: 2", {}},
 };
 
+// Replies of a few values.
+const std::vector<ReadReply> shortReplies = {
+    {With(TANDEKOR_AT_Get_SCKS), "A12", {{}, U32(2)}},      {getCmer, "AT+CMER?\r\r\nERROR", {{0}, {0}, {0}}},
+    {getCacm, "AT+CACM?\r\r\n+CACM: \"12", {U16(54464)}},   {getCamm, Reply("", "+CAMM: \"070000\""), {U16(4464)}},
+    {getCbc, Reply("AT+CBC", "+CBC: 0,100"), {{0}, {100}}}, {getCbc, Reply("AT+CBC", "+CBC: 1,85"), {{1}, {85}}},
+    {getCbc, Reply("at+cbc", "+CBC: 2,7"), {{2}, {7}}},     {getCbc, "AT+CBC\r\r\n+CBC: 0,999", {{0}, {231}}},
+    {getCsq, Reply("AT+CSQ", "+CSQ: 21,99"), {{21}, {99}}}, {getCsq, Reply("AT+CSQ", "+CSQ: 5,3"), {{5}, {3}}},
+    {getCsq, Reply("AT+CSQ", "+CSQ: 31,0"), {{31}, {0}}},   {getCsq, "AT+CSQ\r\r\n+CSQ: 9,12", {{9}, {12}}},
+    {getCsq, "AT+CSQ\r\r\n+CSQ: 21", {untouched, {21}}},    {getCsq, "AT+CSQ\r\r\nERROR", {untouched, untouched}},
+    {getCsq, std::string(4096, '7'), {{77}, {77}}},         {getCbst, "A: x,0,1", {U32('x' - '0'), {'0'}, {'1'}}},
+    {getCbst, "A,0,1", {U32('A' - '0'), {'0'}, {'1'}}},     {getSifs, Reply("AT^SIFS", "^SIFS: IrDA"), {{1}}},
+    {getSifs, Reply("AT^SIFS", "^SIFS: Bluetooth"), {{2}}}, {getSifs, "AT^SIFS\r\r\n^SIFS: Wireless", {{3}}},
+    {getSifs, Reply("AT^SIFS", "^SIFS: wire"), {{0}}},      {getSifs, "AT^SIFS\r\r\n^SIFS: Bluetoot", {{0}}},
+};
+
 }  // namespace
 
-AtTable SingleValues()
+AtTable ValueCommands()
 {
-    AtTable table{commands, edges};
-    for (const auto& list : {loggedSettings, longerCommands})
+    AtTable table{commands, edges, {Dense("\r\n+CGACT:", "1,x "), Dense("\r\n+CGACT:", "1,1 ")}};
+    for (const auto& list : {loggedSettings, longerCommands, structuredQueries, settings})
         table.commands.insert(table.commands.end(), list.begin(), list.end());
+    for (const auto& list : {replies, shortReplies})
+        table.replies.insert(table.replies.end(), list.begin(), list.end());
     for (const std::vector<Query>& list : {queries, longerQueries})
     {
         for (const Query& query : list)
@@ -270,13 +265,6 @@ AtTable SingleValues()
     for (const std::string& end : ends)
         table.replies.push_back({With(TANDEKOR_AT_CHUP), end, {}});
     return table;
-}
-
-AtTable StructuredQueries()
-{
-    std::vector<SentCommand> all = structuredQueries;
-    all.insert(all.end(), settings.begin(), settings.end());
-    return {all, replies, {Dense("\r\n+CGACT:", "1,x "), Dense("\r\n+CGACT:", "1,1 ")}};
 }
 
 using AtStructuredQueriesTest = AtTest;

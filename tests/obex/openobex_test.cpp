@@ -119,14 +119,12 @@ protected:
     void SetPath(obex_object_t* object, const std::string& name)
     {
         uint8_t* flags = nullptr;
-        if (OBEX_ObjectGetNonHdrData(object, &flags) != 2)
-            return Refuse(object, OBEX_RSP_BAD_REQUEST);
-        const std::string path = name.empty() ? "" : folder + name + '/';
-        if ((flags[0] & 2) == 0)
-            folders.insert(path);
-        if (!folders.contains(path))
-            return Refuse(object, OBEX_RSP_NOT_FOUND);
-        folder = path;
+        const bool whole = OBEX_ObjectGetNonHdrData(object, &flags) == 2;
+        folder = name.empty() ? "" : folder + name + '/';
+        if (whole && (flags[0] & 2) == 0)
+            folders.insert(folder);
+        if (!whole || !folders.contains(folder))
+            Refuse(object, OBEX_RSP_NOT_FOUND);
     }
 
     // A streamed body goes out in Body headers, and an End of Body without data after them.

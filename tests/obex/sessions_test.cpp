@@ -50,10 +50,8 @@ protected:
         {
             if (i == place)
                 simulator::QueueReply(reply);
-            else if (i < place || i == last || !ends)
+            else if (i < place || !ends || (i == last && place != 0))
                 simulator::QueueReply({operation.replies[i], i < last || !disconnectFails, {}});
-            if (i == place && ends && (place == 0 || place == last))
-                break;
         }
         return operation.call(handle);
     }
