@@ -73,7 +73,7 @@ std::vector<Call> FtmCalls()
     return calls;
 }
 
-TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryText)
+TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryTextAndAStandardOneClosesWithOneOfThree)
 {
     for (const FtmRequest& request : Requests())
     {
@@ -85,13 +85,6 @@ TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryText)
         EXPECT_EQ(LastTimeoutMs(), request.timeoutMs);
         EXPECT_EQ(simulator::Exchanges().back().operation, "QLIB_SendSync");
         EXPECT_EQ(Log().front(), request.entry);
-    }
-}
-
-TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
-{
-    for (const FtmRequest& request : Requests())
-    {
         if (request.valueBytes == ownProcedure)
             continue;
         const std::string values = std::string(" 77 77 77 77").substr(0, 3 * static_cast<size_t>(request.valueBytes));
@@ -99,8 +92,8 @@ TEST_F(FtmRequestsTest, StandardCommandClosesWithOneOfThreeTexts)
         const auto expect = [&](uint8_t result, bool outsWritten, const std::string& ending)
         {
             const CallResult call = request.call(handle);
-            EXPECT_EQ(call.result, result) << request.entry;
-            EXPECT_EQ(call.written, std::vector<bool>(call.outs.size(), outsWritten)) << request.entry;
+            EXPECT_EQ(call.result, result);
+            EXPECT_EQ(call.written, std::vector<bool>(call.outs.size(), outsWritten));
             EXPECT_EQ(Log().back(), closing + ending);
         };
         RepliesWith("00 00" + values);

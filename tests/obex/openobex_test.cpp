@@ -148,7 +148,6 @@ protected:
     }
 
     static void Refuse(obex_object_t* object, uint8_t response) { OBEX_ObjectSetRsp(object, response, response); }
-
     void ExpectGood(const Call& call)
     {
         const CallResult made = call(handle);
