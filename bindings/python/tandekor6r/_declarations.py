@@ -1988,7 +1988,7 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('bFTMMode', 'uint8_t', False, False, 'in', False, None, None),
         ),
-        'Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which\ntakes about 20 seconds and at most about 72.\n\nhResourceContext [in]  handle of the connection\nbFTMMode [in]  TandekorPhoneMode; written as it is\n',
+        'Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which\ntakes about 20 seconds and at most about 72. Of a phone that does not answer again a remark is logged, without\n"Failure".\n\nhResourceContext [in]  handle of the connection\nbFTMMode [in]  TandekorPhoneMode; written as it is\n',
     ),
     'TANDEKOR_ONLINE_TO_FTM': (
         'uint8_t',
@@ -2011,7 +2011,7 @@ FUNCTIONS = {
             ('iBootBoxPort', 'uint16_t', False, False, 'in', False, None, None),
             ('bFTMMode', 'uint8_t', False, False, 'in', False, None, None),
         ),
-        "Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode\nasked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).\n\nhResourceContext [in]  handle of the connection\niBootBoxPort [in]  number of the boot box's serial port. The port is opened by the first call for this process alone and stays open until the connection ends; another number than the open one is refused. On Windows the port is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process holds the port, its lines may be raised before it is refused\nbFTMMode [in]  TandekorPhoneMode; any other value than its first two leaves the mode unchanged\n",
+        "Switches the phone on by the boot box, asks up to 70 times in 28 seconds for its first answer and brings it\ninto the mode asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).\nAn answer to the last of the 70 is too late; no line says so. No step has a start line here.\n\nhResourceContext [in]  handle of the connection\niBootBoxPort [in]  number of the boot box's serial port. The first call opens the port for this process only; it stays open until the connection ends, and another number than the open one is refused. On Windows the port is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process holds the port, its lines may be raised before it is refused\nbFTMMode [in]  TandekorPhoneMode; any other value than its first two leaves the mode unchanged\n",
     ),
     'TANDEKOR_BootBox_SwitchMobileOff': (
         'uint8_t',
@@ -2039,7 +2039,7 @@ FUNCTIONS = {
             ('iMSMModel', 'uint32_t', False, False, 'in', False, None, None),
             ('piPhoneModel', 'uint32_t', True, False, 'out', False, None, None),
         ),
-        'The phone model of a hardware variant on a chip family. No phone is asked.\n\nhResourceContext [in]  handle of the connection\niVerNumber [in]  hardware variant\niMSMModel [in]  chip family, 1 to 4\npiPhoneModel [out]  TandekorPhoneModel, 0 for a pair that is not known\n',
+        'The phone model of a hardware variant on a chip family. No phone is asked, and nothing is\nlogged.\n\nhResourceContext [in]  handle of the connection\niVerNumber [in]  hardware variant\niMSMModel [in]  chip family, 1 to 4\npiPhoneModel [out]  TandekorPhoneModel, 0 for a pair that is not known\n',
     ),
     'TANDEKOR_CheckSWBuild': (
         'uint8_t',
@@ -2355,7 +2355,7 @@ FUNCTIONS = {
             ('iSPC', 'char', True, False, 'in', False, None, None),
             ('piSPC_Result', 'uint8_t', True, False, 'out', False, None, None),
         ),
-        'Activates the on-chip virtual SIM of an online phone: service programming code, FTM mode (by a reset if need be),\nclock, back online, SIM; takes at least 4 and at most 42 seconds of waits. A failed clock is logged and passed\nover. The log is muted while the phone restarts, and never left muted.\n\nhResourceContext [in]  handle of the connection\niSPC [in]  service programming code, six digits; shown in the log\npiSPC_Result [out]  as the host library has it; not checked\n',
+        'Activates the on-chip virtual SIM of an online phone: service programming code, FTM mode (by a reset if need be),\nclock, back online, SIM; takes at least 4 and at most 42 seconds of waits. A failed clock is logged and passed\nover. The log is muted while the phone restarts, and never left muted.\n\nhResourceContext [in]  handle of the connection\niSPC [in]  service programming code, six digits and a NUL; shown in the log\npiSPC_Result [out]  as the host library has it; not checked\n',
     ),
     'TANDEKOR_SpecialSetRtcActualTime': (
         'uint8_t',
