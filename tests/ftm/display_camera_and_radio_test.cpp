@@ -86,11 +86,10 @@ const std::string blocks = "\nTANDEKOR_FTM_FM_RADIO_";
 std::vector<FtmRequest> DisplayCameraAndRadioRequests()
 {
     return {
-        {ReadOnly(With(TANDEKOR_FTM_DISPLAY_IMAGE, {shortName})), "17 00 80 00 0C 00 " + ToHex(shortName),
+        {With(TANDEKOR_FTM_DISPLAY_IMAGE, {shortName}), "17 00 80 00 0C 00 " + ToHex(shortName),
          "FTM_DISPLAY_IMAGE(sFileName[128] = 'p')", 0, 3000, "FTM_DISPLAY_IMAGE()"},
-        {ReadOnly(With(TANDEKOR_FTM_DISPLAY_IMAGE_24BIT, {Ascii(fullName)})),
-         "C9 00 80 00 0C 00 " + ToHex(Ascii(fullName)), "FTM_DISPLAY_IMAGE_24BIT(sFileName[128] = '" + fullName + "')",
-         0, 3000, "FTM_DISPLAY_IMAGE_24BIT()"},
+        {With(TANDEKOR_FTM_DISPLAY_IMAGE_24BIT, {Ascii(fullName)}), "C9 00 80 00 0C 00 " + ToHex(Ascii(fullName)),
+         "FTM_DISPLAY_IMAGE_24BIT(sFileName[128] = '" + fullName + "')", 0, 3000, "FTM_DISPLAY_IMAGE_24BIT()"},
         {With(TANDEKOR_FTM_SET_LCD_BACKLIGHT_LEVEL, {200}), "1E 00 01 00 0C 00 C8",
          "FTM_SET_LCD_BACKLIGHT_LEVEL(iLevel = 200)", 0, 3000, "", true},
         {With(TANDEKOR_FTM_SWITCH_LCD_BACKLIGHT, {1}), "97 00 01 00 0C 00 01",

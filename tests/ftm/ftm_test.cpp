@@ -30,18 +30,6 @@ std::string Expanded(const std::string& text, const std::string& entry, const Nu
 
 }  // namespace
 
-Call ReadOnly(const Call& call)
-{
-    return [call](ResourceContext handle)
-    {
-        CallResult made = call(handle);
-        EXPECT_EQ(made.written, std::vector<bool>(made.written.size()));
-        made.outs.clear();
-        made.written.clear();
-        return made;
-    };
-}
-
 void FtmTest::RepliesWith(const std::string& fields) { Replies(Hex("01 02 03 04 05 06 07 08 09 00 " + fields)); }
 
 void FtmTest::ExpectAnswers(const std::vector<Answered>& rows)

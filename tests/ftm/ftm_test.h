@@ -32,9 +32,6 @@ std::vector<FtmRequest> DisplayCameraAndRadioRequests();
 
 std::vector<Call> FtmCalls();
 
-// A call whose non-constant arguments are read alone.
-Call ReadOnly(const Call& call);
-
 constexpr char done[] = " - Completed successfully\n";
 constexpr char noReply[] = " - SendSync() fail (error code = 187)";
 

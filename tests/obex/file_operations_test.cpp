@@ -16,7 +16,7 @@ std::string GetTurns(const std::string& first, const std::string& replies)
     std::string turns;
     std::istringstream stream(replies);
     for (std::string reply; std::getline(stream, reply, ';');)
-        turns += (turns.empty() ? "get id " + first : ";get id") + " > " + reply + " @5000";
+        turns.append(turns.empty() ? "get id " + first : ";get id").append(" > ").append(reply).append(" @5000");
     return turns;
 }
 

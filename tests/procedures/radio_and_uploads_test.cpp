@@ -152,7 +152,7 @@ TEST_F(UploadTest, ArgumentsAreHandedOnAsTheyAre)
     EXPECT_EQ(Calls(), (Texts{mode, configure,
                               "QLIB_UploadMultiImage(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, "
                               "19, 20, 21, 22, 23)"}));
-    Phone().upload.succeeds = false;
+    Phone().upload.result = 0;
     EXPECT_EQ(MultiImage(), 0);
     EXPECT_EQ(Log(),
               (Texts{"\tQLIB_UploadCEFS_File2() - Completed successfully\n",
@@ -173,7 +173,7 @@ TEST_F(UploadTest, OtherLibraryModeIsToldByTheHostLibraryAlone)
 
 TEST_F(UploadTest, CallbackIsToldEachStepAndThePercentageOfTheUploadBefore)
 {
-    Phone().upload = {.totalSize = 100000, .steps = 4, .stepTimeMs = 1, .lastStatus = 2, .succeeds = true};
+    Phone().upload = {.totalSize = 100000, .steps = 4, .stepTimeMs = 1, .lastStatus = 2, .result = 1};
     TANDEKOR_UploadCEFS_File(handle, 1, 2);
     EXPECT_EQ(Since(), (Told{{1, 0}, {1, 25}, {1, 50}, {1, 75}, {1, 100}, {2, 100}}));
     Phone().upload.totalSize = 2000;
