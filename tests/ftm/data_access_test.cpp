@@ -215,15 +215,15 @@ TEST_F(DataAccessTest, SimAndRfItems)
 
 TEST_F(DataAccessTest, CardReadTakesDataAndStatusAndOtherAccessLooksAtTheExchangeAlone)
 {
-    const Call read = Card(0, Bytes(4)), readMore = Card(0, Bytes(20));
+    const Call card = Card(0, Bytes(4)), more = Card(0, Bytes(20));
     const std::string called = "()", refused = "() - SendSync() fail (error code = ";
     ExpectAnswers({
-        {read, "00 00 A1 A2 A3 A4", 1, {0xA4A3A2A1}, {called + done}},
-        {read, "07 81 A1 A2 A3 A4", 0, {0xA4A3A2A1}, {refused + "33031)"}},
-        {read, "=", 1, {0}, {called + done}},
-        {read, "!", 0, {0}, {called + noReply}},
-        {readMore, "00 00 A1 A2 A3 A4 00 00", 1, Numbers(20), {called + done}},
-        {readMore, "00 00 A1 A2 A3 A4 07 00", 0, Numbers(20), {refused + "7)"}},
+        {card, "00 00 A1 A2 A3 A4", 1, {0xA4A3A2A1}, {called + done}},
+        {card, "07 81 A1 A2 A3 A4", 0, {0xA4A3A2A1}, {refused + "33031)"}},
+        {card, "=", 1, {0}, {called + done}},
+        {card, "!", 0, {0}, {called + noReply}},
+        {more, "00 00 A1 A2 A3 A4 00 00", 1, Numbers(20), {called + done}},
+        {more, "00 00 A1 A2 A3 A4 07 00", 0, Numbers(20), {refused + "7)"}},
         {Card(0, {}), "05 00", 0, {}, {refused + "5)"}},
         {Card(1, {0xA1}), "05 00", 1, {0xA1}, {called + done}},
         {Card(1, {0xA1}), "!", 0, {0xA1}, {called + noReply}},

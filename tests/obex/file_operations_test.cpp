@@ -1,6 +1,7 @@
 // Listings and files to the host and files back, packet by packet, and host files that are not as they should be.
+#include <algorithm>
 #include <filesystem>
-#include <sstream>
+#include <regex>
 
 #include "tests/obex/obex_test.h"
 
@@ -13,11 +14,16 @@ namespace
 // The turns of a Get: the first request, and the same request again for each further reply.
 std::string GetTurns(const std::string& first, const std::string& replies)
 {
-    std::string turns;
-    std::istringstream stream(replies);
-    for (std::string reply; std::getline(stream, reply, ';');)
-        turns.append(turns.empty() ? "get id " + first : ";get id").append(" > ").append(reply).append(" @5000");
-    return turns;
+    return "get id " + first + " > " + std::regex_replace(replies, std::regex("\\|"), " @5000;get id > ") + " @5000";
+}
+
+// Rows of "reply|reply = value ... text", parted by semicolons or line ends.
+std::vector<std::smatch> Rows(const std::string& rows, const std::string& values)
+{
+    const std::regex row("([^\\s;][^=;\n]*) = " + values);
+    std::vector<std::smatch> all{std::sregex_iterator(rows.begin(), rows.end(), row), {}};
+    EXPECT_EQ(all.size(), static_cast<size_t>(std::count(rows.begin(), rows.end(), '='))) << "each row is read";
+    return all;
 }
 
 class FileOperationsTest : public ObexTest
@@ -55,83 +61,61 @@ protected:
 TEST_F(FileOperationsTest, GetWritesBodiesToTheHostFileAndLeavesWhatCame)
 {
     WriteHostFile("f", Ascii("what was there before, and is longer"));
-    // What the phone replies, the error, and the host file after it.
-    const std::tuple<const char*, uint16_t, std::string> rows[] = {
-        {"continue id size:9 body:ab;continue size:0 body:cd;continue body:;continue id 48 00 05 0D 0A;done end:", 0,
-         "abcd\r\n"},
-        {"continue 48 00 05 65 66 67 68;done id end:ij", 0, "ef"},
-        {"continue body:;done end:", 0, ""},
-        // The data are found by the Body header and not by the packet's length.
-        {"90 FF FF body:ab;A0 FF FF end:", 0, "ab"},
-        {"90 00 00 body:cd;A0 00 00 end:", 0, "cd"},
-        {"done end:", 0, "none"},
-        {"missing", 64, "none"},
-        {"forbidden", 32, "none"},
-        {"continue CB 00 00 00 06 body:ab", 32, "none"},
-        {"continue id 42 00 05 61 62", 32, "none"},
-        {"continue end:ab", 32, "none"},
-        {"continue id", 32, "none"},
-        {"90", 32, "none"},
-        {"continue body:ab;done CB 00 00 00 06 end:", 32, "ab"},
-        {"continue body:ab;done body:", 32, "ab"},
-        {"continue body:ab;done", 32, "ab"},
-        {"continue body:ab;done id", 32, "ab"},
-        {"continue body:ab;A0", 32, "ab"},
-        {"continue body:ab;refused", 32, "ab"},
-        {"continue body:ab;continue body:cd;missing", 64, "abcd"},
-    };
-    for (const auto& [replies, bits, text] : rows)
+    // The data are found by the Body header and not by the packet's length.
+    const std::string rows = R"(
+        continue 48 00 05 65 66 67 68|done id end:ij = 0 ef; continue body:|done end: = 0 -
+        90 FF FF body:ab|A0 FF FF end: = 0 ab; 90 00 00 body:cd|A0 00 00 end: = 0 cd; done end: = 0 none
+        missing = 64 none; forbidden = 32 none; continue CB 00 00 00 06 body:ab = 32 none
+        continue id 42 00 05 61 62 = 32 none; continue end:ab = 32 none; continue id = 32 none; 90 = 32 none
+        continue body:ab|done CB 00 00 00 06 end: = 32 ab; continue body:ab|done body: = 32 ab
+        continue body:ab|done = 32 ab; continue body:ab|done id = 32 ab; continue body:ab|A0 = 32 ab
+        continue body:ab|refused = 32 ab; continue body:ab|continue body:cd|missing = 64 abcd
+    )";
+    const std::string whole
+        = "continue id size:9 body:ab|continue size:0 body:cd|continue body:|continue id 48 00 05 0D 0A|done end:";
+    ExpectSessions({{GetTo(hostFolder), GetTurns("name:f", whole)}});
+    EXPECT_EQ(HostText("f"), "abcd\r\n");
+    for (const std::smatch& row : Rows(rows, "(\\d+) (-|\\w+)"))
     {
-        if (text == "none")
+        if (row[3] == "none")
             std::filesystem::remove(HostPath("f"));
-        ExpectSessions({{GetTo(hostFolder), GetTurns("name:f", replies), bits}});
-        EXPECT_EQ(HostText("f"), text);
+        ExpectSessions({{GetTo(hostFolder), GetTurns("name:f", row[1]), static_cast<uint16_t>(std::stoi(row[2]))}});
+        EXPECT_EQ(HostText("f"), row[3] == "-" ? "" : row[3].str());
     }
 }
 
 TEST_F(FileOperationsTest, ListingIsPutTogetherInTheCallersBuffer)
 {
-    // What the phone replies, the size of the buffer, the error, the size after it and the content.
-    const std::tuple<const char*, uint32_t, uint16_t, uint32_t, std::string> rows[] = {
-        {"continue body:abcd;done end:", 8, 0, 4, "abcd"},
-        {"continue id body:abcd;continue body:ef;continue body:;done id end:", 8, 0, 6, "abcdef"},
-        {"done end:", 8, 0, 0, ""},
-        {"continue body:ab;done end:cd", 8, 0, 2, "ab"},
-        {"continue 48 00 04 text:abcd;done end:", 8, 0, 4, "abcd"},
-        {"continue 48 00 07 text:ab;done end:", 8, 0, 2, "ab"},
-        // Larger than the buffer, announced; unannounced, at once and later; more than was announced.
-        {"continue size:4 body:ab;continue body:cd;done end:", 4, 0, 4, "abcd"},
-        {"continue size:5 body:ab", 4, 16, 5, ""},
-        {"continue size:4294967295 body:ab", 4, 16, 0xFFFFFFFF, ""},
-        {"continue body:abcde", 4, 16, 4, "abcd"},
-        {"continue body:abcd;continue body:ef", 4, 16, 4, "abcd"},
-        {"continue size:1 body:abcde", 4, 16, 1, "abcd"},
-        {"continue body:a", 0, 16, 0, ""},
-        // Of another form, or cut before the Body or the End of Body.
-        {"continue CB 00 00 00 06 body:ab", 8, 8, 8, ""},
-        {"continue body:ab;done CB 00 00 00 06 end:", 8, 8, 8, "ab"},
-        {"continue body:ab;done", 8, 8, 8, "ab"},
-        {"continue body:ab;done body:", 8, 8, 8, "ab"},
-        {"continue end:", 8, 8, 8, ""},
-        {"continue body:ab size:2;A0", 16, 8, 16, "ab\xC3" + std::string("\0\0\0\2", 4)},
-        {"continue size:4 42 00 05 61 62", 8, 8, 4, ""},
-        {"continue size:4 body:ab;C1 00 03", 8, 8, 4, "ab"},
-        {"continue id", 8, 8, 8, ""},
-        {"continue body:ab;done id", 8, 8, 8, "ab"},
-    };
-    for (const auto& [replies, capacity, bits, sizeAfter, content] : rows)
+    const auto expect = [&](const std::string& replies, size_t capacity, int bits, size_t size, Bytes written)
     {
-        Bytes expected = Ascii(content);
-        expected.resize(capacity, 0x55);
-        const std::string turns = GetTurns("42 00 19 text:x-obex/folder-listing 00", replies);
+        written.resize(capacity, 0x55);
         const Call list = With(TANDEKOR_OBEX_ListDir, {"", Out{capacity}, U32(capacity)});
-        ExpectSessions({{list, turns, bits, 1, {expected, U32(sizeAfter)}}});
-    }
+        const std::string turns = GetTurns("42 00 19 text:x-obex/folder-listing 00", replies);
+        ExpectSessions({{list, turns, static_cast<uint16_t>(bits), 1, {written, U32(size)}}});
+    };
+    // The size of the buffer, the error, the size that is told, and what is written.
+    const std::string rows = R"(
+        continue body:abcd|done end: = 8 0 4 abcd
+        continue id body:abcd|continue body:ef|continue body:|done id end: = 8 0 6 abcdef; done end: = 8 0 0 -
+        continue body:ab|done end:cd = 8 0 2 ab; continue 48 00 04 text:abcd|done end: = 8 0 4 abcd
+        continue 48 00 07 text:ab|done end: = 8 0 2 ab
+        continue size:4 body:ab|continue body:cd|done end: = 4 0 4 abcd; continue size:5 body:ab = 4 16 5 -
+        continue size:4294967295 body:ab = 4 16 4294967295 -; continue body:abcde = 4 16 4 abcd
+        continue body:abcd|continue body:ef = 4 16 4 abcd; continue size:1 body:abcde = 4 16 1 abcd
+        continue body:a = 0 16 0 -; continue CB 00 00 00 06 body:ab = 8 8 8 -
+        continue body:ab|done CB 00 00 00 06 end: = 8 8 8 ab; continue body:ab|done = 8 8 8 ab
+        continue body:ab|done body: = 8 8 8 ab; continue end: = 8 8 8 -; continue size:4 42 00 05 61 62 = 8 8 4 -
+        continue size:4 body:ab|C1 00 03 = 8 8 4 ab; continue id = 8 8 8 -; continue body:ab|done id = 8 8 8 ab
+    )";
+    for (const std::smatch& row : Rows(rows, "(\\d+) (\\d+) (\\d+) (-|\\w+)"))
+        expect(row[1], std::stoul(row[2]), std::stoi(row[3]), std::stoul(row[4]),
+               row[5] == "-" ? Bytes() : Ascii(row[5]));
+    expect("continue body:ab size:2|A0", 16, 8, 16, Hex("61 62 C3 00 00 00 02"));
 }
 
 TEST_F(FileOperationsTest, GetGoesOnWhenTheHostFileCannotBeWritten)
 {
-    const std::string turns = GetTurns("name:f", "continue body:ab;continue body:cd;done end:");
+    const std::string turns = GetTurns("name:f", "continue body:ab|continue body:cd|done end:");
     const std::string nowhere = HostPath("no such folder/");
     std::filesystem::create_directory(HostPath("f"));
     ExpectSessions({{GetTo(hostFolder), turns}, {GetTo(nowhere), turns}});
@@ -198,7 +182,7 @@ TEST_F(FileOperationsTest, HostPathHasAtMost259Characters)
     std::filesystem::create_directories(folder);
     WriteHostFile(longest + "f", Ascii("ab"));
     ExpectSessions({{SendFrom(folder, "f"), "last-put id name:f size:2 time:20240309T070502 end:ab > done @9000"},
-                    {GetTo(folder), GetTurns("name:f", "continue body:cd;done end:")}});
+                    {GetTo(folder), GetTurns("name:f", "continue body:cd|done end:")}});
     EXPECT_EQ(HostText(longest + "f"), "cd");
 
     // One character more, and many.

@@ -120,7 +120,7 @@ void ObexTest::ExpectSessions(const std::vector<Session>& sessions)
 {
     for (Session session : sessions)
     {
-        session.turns = connected + session.turns + disconnected;
+        session.turns = InSession(session.turns);
         ExpectTurns(session);
     }
 }

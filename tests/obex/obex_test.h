@@ -43,6 +43,7 @@ protected:
         = "80 00 1A 10 00 0F FD 46 00 13 6B 01 CB 31 41 06 11 D4 9A 77 00 50 DA 3F 47 1F > ";
     static inline const std::string connected = connect + "done 10 00 10 00 id" + who + ";";
     static inline const std::string disconnect = "disconnect id > ", disconnected = ";disconnect id > done id";
+    static std::string InSession(const std::string& turns) { return connected + turns + disconnected; }
     static inline const std::string walk = "path 02 00 id name:a > done;";  // to the folder a
 
     ObexTest();

@@ -35,7 +35,7 @@ protected:
         WriteHostFile("f", Noise(8135));
         for (Operation& operation : operations)
         {
-            for (const Turn& turn : Turns(connected + operation.turns + disconnected))
+            for (const Turn& turn : Turns(InSession(operation.turns)))
                 operation.replies.push_back(Hex(turn.reply));
         }
     }
@@ -142,7 +142,7 @@ TEST_F(ObexSessionTest, ConnectRepliesAreScannedByteByByte)
     {
         SCOPED_TRACE(what);
         if (good)
-            ExpectTurns({walkNowhere, connect + reply + disconnected});
+            ExpectTurns({walkNowhere, (connect + reply).append(disconnected)});
         else
             ExpectTurns({walkNowhere, connect + reply, 1, 0});
     }

@@ -1,4 +1,5 @@
 // The simulated phone's AT side: its answers, in the form in which the library's tests have them read.
+#include <algorithm>
 #include <regex>
 
 #include "platform/qmsl.h"
@@ -14,7 +15,8 @@ protected:
     void Expect(const std::string& dialogue)
     {
         const std::regex turn("(AT\\S+) > ([^;\n]*)");
-        for (std::sregex_iterator match(dialogue.begin(), dialogue.end(), turn), end; match != end; ++match)
+        auto turns = std::count(dialogue.begin(), dialogue.end(), '>');
+        for (std::sregex_iterator match(dialogue.begin(), dialogue.end(), turn), end; match != end; ++match, --turns)
         {
             const std::string command = match->str(1);
             std::string answer = std::regex_replace(match->str(2), std::regex("\\|"), "\r\n");
@@ -23,9 +25,10 @@ protected:
             Bytes request = Text(command + '\r'), response(4096);
             uint16_t length = 4096;
             QLIB_SendRAW(handle, static_cast<uint16_t>(request.size()), request.data(), &length, response.data(), 1000);
-            EXPECT_EQ(std::string(response.begin(), response.begin() + length),
-                      (simulator::ThePhone().atEcho ? command + "\r\r\n" : "\r\n") + answer);
+            answer.insert(0, simulator::ThePhone().atEcho ? command + "\r\r\n" : "\r\n");
+            EXPECT_EQ(std::string(response.begin(), response.begin() + length), answer);
         }
+        EXPECT_EQ(turns, 0) << "each turn is read";
     }
 };
 
