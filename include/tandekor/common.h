@@ -40,9 +40,7 @@
  * A pointer without [N] points to one value, a const char* to a text with a NUL.
  */
 
-#if defined(_WIN32) && defined(TANDEKOR_BUILDING)
-#define TANDEKOR_API __declspec(dllexport)
-#elif defined(_WIN32) && !defined(TANDEKOR_STATIC)
+#if defined(_WIN32) && !defined(TANDEKOR_STATIC)
 #define TANDEKOR_API __declspec(dllimport)
 #elif defined(__GNUC__)
 #define TANDEKOR_API __attribute__((visibility("default")))

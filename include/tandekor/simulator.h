@@ -19,9 +19,7 @@
 
 #include <stdint.h>
 
-#if defined(_WIN32) && defined(QMSL_BUILDING)
-#define PHONE_API __declspec(dllexport)
-#elif defined(_WIN32) && !defined(TANDEKOR_STATIC)
+#if defined(_WIN32) && !defined(TANDEKOR_STATIC)
 #define PHONE_API __declspec(dllimport)
 #elif defined(__GNUC__)
 #define PHONE_API __attribute__((visibility("default")))

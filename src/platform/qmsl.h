@@ -7,9 +7,7 @@
 
 #include "tandekor/common.h"
 
-#if defined(_WIN32) && defined(QMSL_BUILDING)
-#define QLIB_API __declspec(dllexport)
-#elif defined(_WIN32)
+#if defined(_WIN32)
 #define QLIB_API
 #else
 #define QLIB_API __attribute__((visibility("default")))

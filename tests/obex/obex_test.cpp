@@ -14,10 +14,13 @@ namespace
 
 std::string NewFolder()
 {
-    std::string path = (std::filesystem::temp_directory_path() / "tandekor-XXXXXX").string();
-    if (::mkdtemp(path.data()) == nullptr)
-        ADD_FAILURE() << "no folder for the test's files";
-    return path + static_cast<char>(std::filesystem::path::preferred_separator);
+    namespace fs = std::filesystem;
+    std::random_device random;
+    fs::path path;
+    do
+        path = fs::temp_directory_path() / ("tandekor-" + std::to_string(random()));
+    while (!fs::create_directory(path));
+    return path.string() + static_cast<char>(fs::path::preferred_separator);
 }
 
 const std::map<std::string, uint8_t> starts
