@@ -23,6 +23,45 @@ void BecomePhone(uint32_t chip, uint16_t hardwareId)
     ThePhone().hardwareVersion = chip << 12;
 }
 
+Call After(const std::function<void()>& change, const Call& call)
+{
+    return [=](ResourceContext handle)
+    {
+        change();
+        return call(handle);
+    };
+}
+
+Call After(const Call& first, const Call& second)
+{
+    return [=](ResourceContext handle)
+    {
+        first(handle);
+        return second(handle);
+    };
+}
+
+std::function<void()> Refuse(const char* operation, int n)
+{
+    return [=] { RefuseCall(operation, n); };
+}
+
+std::function<void()> NoReply()
+{
+    return [] { simulator::QueueReply({{}, 0, {}}); };
+}
+
+std::function<void()> Reply(const char* digits)
+{
+    return [=] { simulator::QueueReply({Hex(digits), 1, {}}); };
+}
+
+void SetRegister(uint32_t address, uint32_t value)
+{
+    for (uint32_t i = 0; i < 4; ++i)
+        ThePhone().memory[address + i] = static_cast<uint8_t>(value >> (8 * i));
+}
+
 namespace
 {
 
@@ -53,8 +92,6 @@ void OnlineUntilItIsReset(ResourceContext)
 }
 
 void FtmUntilItIsReset(ResourceContext) { ThePhone().switchesModeDirectly = false; }
-
-void NeverOffline(ResourceContext) { ThePhone().goesOffline = false; }
 
 void Qpst(ResourceContext) { TANDEKOR_SetLibraryMode(1); }
 
@@ -93,64 +130,22 @@ void MarkPhone()
     ThePhone().testCalls.rxLevel = 'l';
     ThePhone().testCalls.rxQuality = 'q';
     ThePhone().testCalls.state = 's';
+    ThePhone().compileDate = "Mar 14 2006 and more";
+    ThePhone().compileTime = "12:34:56.789";
+    ThePhone().releaseDate = "Apr  1 2006!";
+    ThePhone().releaseTime = "01:02:03x";
+    ThePhone().versionDir = "longer than eight";
+    BeforeCall("QLIB_DIAG_KeyPress_GetQueueSize", 1, [] { ThePhone().keypad.queue = {{0xE030, 'd'}, {0xE031, 'u'}}; });
     ThePhone().files["picture"] = ThePhone().files[std::string(128, 'p')] = {};
 }
 
 namespace
 {
 
-// A call before which the phone or the host library changes.
-Call After(const Change& change, const Call& call)
-{
-    return [=](ResourceContext handle)
-    {
-        change();
-        return call(handle);
-    };
-}
-
-Change Reply(const char* digits)
-{
-    return [=] { simulator::QueueReply({Hex(digits), 1, {}}); };
-}
-
-Change Refuse(const char* operation, int n = 1)
-{
-    return [=] { RefuseCall(operation, n); };
-}
-
-void SetRegister(uint32_t address, uint32_t value)
-{
-    for (uint32_t i = 0; i < 4; ++i)
-        ThePhone().memory[address + i] = static_cast<uint8_t>(value >> (8 * i));
-}
-
-Change Register(uint32_t address, uint32_t value)
-{
-    return [=] { SetRegister(address, value); };
-}
-
-// The register reads back as another value than was written.
-Change ReadsBack(const char* operation, uint32_t value)
-{
-    return [=] { BeforeCall(operation, 2, [=] { SetRegister(16, value); }); };
-}
-
-Change operator+(const Change& first, const Change& second)
-{
-    return [=]
-    {
-        first();
-        second();
-    };
-}
-
 // A caller's table: as long as its item, without a NUL.
 Bytes Table(char content, size_t size) { return Bytes(size, static_cast<uint8_t>(content)); }
 
 // --- calls with many arguments, each with a value of its own
-
-Call RxGsm() { return With(TANDEKOR_RX_GSM_Adjust, {Out{128}, 0xE003, 0xE004, 'S', -5, 'L', Out{2}}); }
 
 Call RxWcdma(int vgaBand, const Given& vsFreq, int fallBand, int riseBand, int lnaIndex)
 {
@@ -202,22 +197,14 @@ Call Charge(int powerMode, int transistor, int state, int read)
     return With(TANDEKOR_Charging_Test, {powerMode, '7', transistor, state, '3', 4375, 300, read});
 }
 
-Call Freeze(const std::string& imei, const std::string& address, const std::string& serial)
-{
-    return With(TANDEKOR_DIAG_FREEZE_PHONE, {Ascii(imei), Ascii(address), Ascii(serial), Table('K', 260)});
-}
-
-Call Build()
-{
-    return With(TANDEKOR_CheckSWBuild, {Out{32}, Out{32}, Out{32}, Out{32}, Out{32}, Out{4}, Out{4}, Out{4}, Out{4},
-                                        Out{4}, Out{4}, Out{4}, Out{4}, Out{4}, Out{512}, Out{512}});
-}
-
 // --- the runs
 
 // Those whose way no other shares.
 std::vector<ProcedureRun> ReadableRuns()
 {
+    const Out text{32}, field{4}, longText{512};
+    const std::vector<Given> build{text,  text,  text,  text,  text,  field, field,    field,
+                                   field, field, field, field, field, field, longText, longText};
     return {
         {"Start_LOG", {With(TANDEKOR_Start_LOG, {"/dev/null"})}},
         {"ModeChangeResetMobile", {With(TANDEKOR_ModeChangeResetMobile, {1})}, Online},
@@ -226,41 +213,28 @@ std::vector<ProcedureRun> ReadableRuns()
         {"BootBox_SwitchMobileOn", {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1})}, Off(1000)},
         {"BootBox_SwitchMobileOff", {With(TANDEKOR_BootBox_SwitchMobileOff, {4})}, SwitchedOn},
         {"Phone_Model", {With(TANDEKOR_Phone_Model)}, Phone(0, 12)},
-        {"CheckSWBuild", {Build()}},
+        {"CheckSWBuild", {With(TANDEKOR_CheckSWBuild, build)}},
         {"AudioTest", {With(TANDEKOR_AudioTest, {15, 'y'})}},
         {"TestSpeaker", {With(TANDEKOR_TestSpeaker, {3, 'V', 0xFFFF, 440})}},
         {"TestMicrophone", {With(TANDEKOR_TestMicrophone, {3, 65, 5, Out{5}, 1000, Ascii("ab"), 2, 0xFFFFFFFF, -300})}},
         {"DIAG_DISABLE_48KHz", {With(TANDEKOR_DIAG_DISABLE_48KHz)}, [](auto) { SetRegister(0x84001308, 0xA5F0C3F1); }},
-        {"TestKeypad",
-         {With(TANDEKOR_TestKeypad)},
-         [](auto)
-         {
-             BeforeCall("QLIB_DIAG_KeyPress_GetQueueSize", 1,
-                        [] {
-                            ThePhone().keypad.queue = {{0xE030, 'd'}, {0xE031, 'u'}};
-                        });
-         }},
-        {"FTM_DrawContrastPattern",
-         {With(TANDEKOR_FTM_DrawContrastPattern, {Ascii("picture" + std::string(121, '\0')), 1})},
-         Phone(0x405, 10)},
+        {"TestKeypad", {With(TANDEKOR_TestKeypad)}},
         {"SetCWPowerBluetooth", {With(TANDEKOR_SetCWPowerBluetooth, {'N'})}},
         {"BluetoothTestConnect", {With(TANDEKOR_BluetoothTestConnect, {Out{13}})}},
         {"Bluetooth_HW_ID", {With(TANDEKOR_Bluetooth_HW_ID)}},
         {"Charging_Test", {Charge(1, 1, 1, 1)}},
-        {"SupplyVoltageTest", {With(TANDEKOR_SupplyVoltageTest, {1, 42, 2, 1})}, Phone(0x405, 10)},
         {"NV_WRITE_IMEI", {With(TANDEKOR_NV_WRITE_IMEI, {"123456789012345"})}},
-        {"DIAG_FREEZE_PHONE", {Freeze("IMEIbytes", "BTaddr", "SerialNumber0123")}},
+        {"DIAG_FREEZE_PHONE",
+         {With(TANDEKOR_DIAG_FREEZE_PHONE,
+               {Ascii("IMEIbytes"), Ascii("BTaddr"), Ascii("SerialNumber0123"), Table('K', 260)})}},
         {"FlashTest", {With(TANDEKOR_FlashTest)}},
         {"SpecialMmcTest", {With(TANDEKOR_SpecialMmcTest)}},
-        {"FM_RadioTest", {With(TANDEKOR_FM_RadioTest, {7, 9460})}},
         {"SetFactoryTrackingByte", {With(TANDEKOR_SetFactoryTrackingByte, {1, 127, Ascii("Z")})}},
         {"UploadMultiImage",
          {With(TANDEKOR_UploadMultiImage,
                {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23})},
          Qpst},
-        {"RX_GSM_Adjust", {RxGsm()}},
-        {"RX_WCDMA_Adjust", {RxWcdma(4, Table('v', 16), 5, 6, 2)}},
-        {"Write_RX_Adjustment_Values", {Calibration('B', 5, 6)}},
+        {"RX_GSM_Adjust", {With(TANDEKOR_RX_GSM_Adjust, {Out{128}, 0xE003, 0xE004, 'S', -5, 'L', Out{2}})}},
         {"Reduced_Signalling_GSM", {Gsm(1, 'C')}},
         {"Reduced_Signalling_WCDMA",
          {With(TANDEKOR_Reduced_Signalling_WCDMA,
@@ -273,13 +247,9 @@ std::vector<ProcedureRun> ReadableRuns()
         {"Set_TX_PowerOn", {With(TANDEKOR_Set_TX_PowerOn, {0xE001, 0xE002, 'P', 'S', -7, 'T', 2100000000, 'I'})}},
         {"WCDMA_PA_OutputPower", {With(TANDEKOR_WCDMA_PA_OutputPower, {0xE001, 0xE002, 0xE003, 'C', 0xE004, 0xE005})}},
         {"AFC_Deviation", {With(TANDEKOR_AFC_Deviation, {0xE001, 0xE002, 0xE003, 'C', 0xE004, 0xE005})}},
-        {"CheckDACValues", {With(TANDEKOR_CheckDACValues, {3, 256})}},
         {"Virtual_SIM", {With(TANDEKOR_Virtual_SIM, {"000000"})}, Online},
         {"Virtual_SIM by resets", {With(TANDEKOR_Virtual_SIM, {"000000"})}, OnlineUntilItIsReset},
         {"NetworkAndChannelPreselection", {With(TANDEKOR_NetworkAndChannelPreselection, {3, 4, 0xE041})}},
-        {"FTM_SetKeyPadBackLightGPIO", {With(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {2, 1})}},
-        {"FTM_TestFlip", {With(TANDEKOR_FTM_TestFlip, {0})}, Phone(0x405, 3)},
-        {"FTM_I2C_GetCameraId", {With(TANDEKOR_FTM_I2C_GetCameraId, {1})}},
     };
 }
 
@@ -287,158 +257,66 @@ std::vector<ProcedureRun> ReadableRuns()
 std::vector<ProcedureRun> FurtherRuns()
 {
     const Given table = Table('t', 16), other = Table('u', 16), null = nullptr;
-    const auto switchOn = With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1}),
-               anyMode = With(TANDEKOR_BootBox_SwitchMobileOn, {4, 2});
-    const auto sim = With(TANDEKOR_Virtual_SIM, {"000000"});
-    const auto cameraId = With(TANDEKOR_FTM_I2C_GetCameraId, {1});
-    const auto camera = [](const char* operation)
-    { return Change([=] { BeforeCall(operation, 1, [] { ThePhone().camera.status = 0x10005; }); }); };
-    const auto noReply = Change([] { simulator::QueueReply({{}, 0, {}}); });
     const auto item
         = [](uint16_t number, const char* digits) { return Change([=] { ThePhone().nvItems[number] = Hex(digits); }); };
     return {
+        {"FTM_DrawContrastPattern",
+         {With(TANDEKOR_FTM_DrawContrastPattern, {Ascii("picture" + std::string(121, '\0')), 1})},
+         Phone(0x405, 10)},
+        {"SupplyVoltageTest", {With(TANDEKOR_SupplyVoltageTest, {1, 42, 2, 1})}, Phone(0x405, 10)},
+        {"FM_RadioTest", {With(TANDEKOR_FM_RadioTest, {7, 9460})}},
+        {"RX_WCDMA_Adjust", {RxWcdma(4, Table('v', 16), 5, 6, 2)}},
+        {"Write_RX_Adjustment_Values", {Calibration('B', 5, 6)}},
+        {"CheckDACValues", {With(TANDEKOR_CheckDACValues, {3, 256})}},
+        {"FTM_SetKeyPadBackLightGPIO", {With(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {2, 1})}},
+        {"FTM_TestFlip", {With(TANDEKOR_FTM_TestFlip, {0})}, Phone(0x405, 3)},
+        {"NV_READ_IMEI", {With(TANDEKOR_NV_READ_IMEI, {Out{16}})}},
+        {"FtmBtSetAddr", {With(FtmBtSetAddr, {"0123456789abx"})}},
+        {"SpecialSetPmicChargeLimits", {With(SpecialSetPmicChargeLimits, {4375, 300})}},
+        {"SimSimulation", {With(SimSimulation)}},
+        {"FTM_I2C_GetCameraId", Sweep(TANDEKOR_FTM_I2C_GetCameraId, {{0, 1, 2}})},
         {"DIAG_NV_WRITE_F", {With(DIAG_NV_WRITE_F, {40000, Ascii("abc"), 3})}},
-        {"DIAG_NV_WRITE_F refused", {With(DIAG_NV_WRITE_F, {40000, Ascii("abc"), 3})}, Without({40000})},
         {"DIAG_NV_READ_F", {With(DIAG_NV_READ_F, {550, Out{9}, 9})}},
         {"NV_READ_GSM_RX_REL_OFFSETS",
          {With(NV_READ_GSM_RX_REL_OFFSETS, {550, Out{9}, 9}),
           After(item(10, "78 00 7A"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{3}, 3})),
           After(item(10, "25 73 25 6E BB"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{5}, 5}))}},
-        {"NV_READ_GSM_RX_REL_OFFSETS refused",
-         {With(NV_READ_GSM_RX_REL_OFFSETS, {550, Bytes{'a', 'b', 'c'}, 3})},
-         Without({550})},
         {"DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", {With(DIAG_NV_WRITE_FLUSH_BATCH_QUEUE)}},
         {"SetBitState_8_Reg", Sweep(SetBitState_8_Reg, {{16}, {0x86}, {0, 1, 2}}),
          [](auto) { SetRegister(16, 0x80000083); }},
         {"SetBitState_32_Reg", Sweep(SetBitState_32_Reg, {{16}, {0x80000086}, {0, 1, 2}}),
          [](auto) { SetRegister(16, 0x80000083); }},
-        {"SetBitState_8_Reg reads back",
-         {After(ReadsBack("QLIB_DIAG_MEMORY_PEEK_F", 0xF0), With(SetBitState_8_Reg, {16, 0x0F, 0})),
-          After(ReadsBack("QLIB_DIAG_MEMORY_PEEK_F", 0xF8), With(SetBitState_8_Reg, {16, 0x0F, 0}))}},
-        {"SetBitState_32_Reg reads back",
-         {After(ReadsBack("QLIB_DIAG_MEMORY_PEEK_DWORD_F", 0xFF00000F), With(SetBitState_32_Reg, {16, 0x0F, 1})),
-          After(ReadsBack("QLIB_DIAG_MEMORY_PEEK_DWORD_F", 0x07), With(SetBitState_32_Reg, {16, 0x0F, 1}))}},
         {"TK_GetBitState_32_Reg", Sweep(TK_GetBitState_32_Reg, {{16}, {0, 1, 30, 31, 32, 33}}),
          [](auto) { SetRegister(16, 0x80000001); }},
-        {"ModeChangeResetMobile of a slow phone",
-         {With(TANDEKOR_ModeChangeResetMobile, {5})},
-         [](auto)
-         {
-             ThePhone().goesOffline = false;
-             ThePhone().startTimeMs = 20500;
-             BeforeCall("QLIB_DIAG_STATUS_F", 3, [] { ThePhone().mode = Mode::Offline; });
-         }},
-        {"ModeChangeResetMobile, never offline", {With(TANDEKOR_ModeChangeResetMobile, {1})}, NeverOffline},
-        {"ModeChangeResetMobile, never back",
-         {With(TANDEKOR_ModeChangeResetMobile, {1})},
-         [](auto)
-         {
-             ThePhone().mode = Mode::Offline;
-             ThePhone().startTimeMs = 1'000'000;
-         }},
         {"ModeChangeResetMobile to online", {With(TANDEKOR_ModeChangeResetMobile, {0})}},
         {"ONLINE_TO_FTM by command", {With(TANDEKOR_ONLINE_TO_FTM)}, Online},
         {"FTM_TO_ONLINE by reset", {With(TANDEKOR_FTM_TO_ONLINE)}, FtmUntilItIsReset},
         {"BootBox_SwitchMobileOn online", {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0})}, Online},
         {"BootBox_SwitchMobileOn with reset",
-         {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0}), After([] { Online(0); }, switchOn)}},
-        {"BootBox_SwitchMobileOn at the last moment", {anyMode}, Off(27600)},
-        {"BootBox_SwitchMobileOn too late", {anyMode}, Off(28000)},
-        {"BootBox_SwitchMobileOn at another port", {With(TANDEKOR_BootBox_SwitchMobileOn, {65535, 0})}},
-        {"BootBox_SwitchMobileOn leaves the mode",
-         {After([] { BeforeCall("QLIB_IsFTM_Mode", 2, [] { Online(0); }); }, switchOn),
-          After([] { Online(0), BeforeCall("QLIB_DIAG_STATUS_F", 1, [] { ThePhone().mode = Mode::Ftm; }); },
-                With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0}))}},
-        {"BootBox_SwitchMobileOff at another port", {With(TANDEKOR_BootBox_SwitchMobileOff, {5})}, SwitchedOn},
-        {"BootBox_SwitchMobileOff, never offline",
-         {After([] { NeverOffline(0); }, With(TANDEKOR_BootBox_SwitchMobileOff, {4}))},
-         SwitchedOn},
-        {"BootBox_SwitchMobileOff, never silent",
-         {After([] { simulator::TheClock().onSleep = [](uint32_t) { ThePhone().on = true; }; },
-                With(TANDEKOR_BootBox_SwitchMobileOff, {4}))},
-         SwitchedOn},
+         {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0}),
+          After([] { Online(0); }, With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1}))}},
         {"Phone_Model by the build", {With(TANDEKOR_Phone_Model)}},
         {"Phone_Model of DraK2F", {With(TANDEKOR_Phone_Model)}, [](auto) { ThePhone().buildId = "xx-DraK2F-01"; }},
-        {"Phone_Model without replies",
-         {After(
-              [] {
-                  ThePhone().msmHardwareVersion = 0, simulator::QueueReply({{}, 0, {}});
-              },
-              With(TANDEKOR_Phone_Model)),
-          After(noReply, With(TANDEKOR_Phone_Model)), After(Reply(""), With(TANDEKOR_Phone_Model))}},
         {"GetPhoneModel", {With(TANDEKOR_GetPhoneModel, {12, 2})}},
-        {"CheckSWBuild of long texts",
-         {Build()},
-         [](auto)
-         {
-             ThePhone().compileDate = "Mar 14 2006 and more";
-             ThePhone().compileTime = "12:34:56.789";
-             ThePhone().releaseDate = "Apr  1 2006!";
-             ThePhone().releaseTime = "01:02:03x";
-             ThePhone().versionDir = "longer than eight";
-         }},
         {"MicrophoneBiasVoltages", Sweep(TANDEKOR_MicrophoneBiasVoltages, {{0, 14, 15, 16, 0x10F}})},
-        {"MicrophoneBiasVoltages by its reply",
-         {After(Reply("FF FF FF FF FF FF FF FF FF FF 00 FF FF FF"), With(TANDEKOR_AudioTest, {15, 0})),
-          After(Reply("4B 0B 01 80 70 04 0E 00 0E 00 01 00 00 00"), With(TANDEKOR_TestSpeaker, {15, 1, 2, 3})),
-          After(Reply("4B 0B 01 80 70 04 0E 00 0E 00"), With(TANDEKOR_AudioTest, {15, 0})),
-          After(Reply("4B 0B 01 80 70 04 0E 00 0E 00 80"), With(TANDEKOR_AudioTest, {15, 0}))}},
-        {"TestMicrophone, other reserved word",
-         {With(TANDEKOR_TestMicrophone, {3, 0, 4, Out{4}, 1000, Ascii("a"), 1, 0, 1})}},
         {"SpecialSetKeypadMapping",
          Sweep(TANDEKOR_SpecialSetKeypadMapping, {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 255}})},
         {"SpecialSwitchDisplay", Sweep(TANDEKOR_SpecialSwitchDisplay, {{0, 1, 255}}), Phone(0x405, 2)},
-        {"SpecialSwitchDisplay, long reply",
-         {With(TANDEKOR_SpecialSwitchDisplay, {1})},
-         [](auto)
-         {
-             BecomePhone(0x405, 2);
-             ThePhone().buildId = "DraK2F";
-             simulator::QueueReply({Table('\xFF', 12), 1, uint16_t{40000}});
-         }},
         {"FTM_DrawContrastPattern24Bit",
          {With(TANDEKOR_FTM_DrawContrastPattern24Bit, {Table('p', 128), 1})},
          Phone(0x405, 10)},
-        {"FtmBtSetAddr", Sweep(FtmBtSetAddr, {{"789ABC123456", "789abc123456", "0123456789abcdef", "f0e1d2c3b4a5x",
-                                               "g1-2 3\xE4"
-                                               "4@5/6",
-                                               "", "789abc12345"}})},
-        {"BluetoothTestConnect refused", {With(TANDEKOR_BluetoothTestConnect, {Out{13}})}, Without({447})},
         {"Charging_Test of the other transistors",
          {Charge(0, 0, 0, 1), Charge(2, 1, 0, 1), Charge(1, 2, 1, 1), Charge(1, 1, 1, 2)}},
-        {"Charging_Test in low power", {Charge(3, 1, 1, 1), After(noReply, Charge(3, 1, 0, 1))}},
         {"SpecialSetChargeFetState", Sweep(SpecialSetChargeFetState, {{0, 1, 2, 255}, {0, 1}})},
         {"SpecialGetChargeFetState", Sweep(SpecialGetChargeFetState, {{0, 1, 2, 255}})},
-        {"SpecialSetPmicChargeLimits", Sweep(SpecialSetPmicChargeLimits, {{3999, 4000, 4024, 4025, 4374, 4375, 4376},
-                                                                          {9, 10, 19, 20, 299, 300, 301, 0x1000A}})},
         {"SupplyVoltageTest of other modes",
          Sweep(TANDEKOR_SupplyVoltageTest, {{0, 1, 2}, {42}, {0, 1, 2, 3}, {0, 1, 77}}), Phone(0x405, 10)},
-        {"SupplyVoltageTest, switch refused",
-         {After([] { BeforeCall("QLIB_SendSync", 2, Reply("4B 0B 00 80 0E 00 00 00 0C 00 07 00")); },
-                With(TANDEKOR_SupplyVoltageTest, {1, 42, 2, 1}))}},
         {"SpecialSwitchAccSupplyVoltage", Sweep(TANDEKOR_SpecialSwitchAccSupplyVoltage, {{0, 1, 77}}), Phone(0x40, 8)},
-        {"NV_READ_IMEI",
-         {With(TANDEKOR_NV_READ_IMEI, {Out{16}}),
-          After(item(550, "08 1A 32 54 76 98 10 32 54"), With(TANDEKOR_NV_READ_IMEI, {Out{16}})),
-          After(item(550, "FF 05 00 00 00 00 00 00 90"), With(TANDEKOR_NV_READ_IMEI, {Out{16}})),
-          After(item(550, "08 FA BA DC FE 98 10 32 A4"), With(TANDEKOR_NV_READ_IMEI, {Out{16}}))}},
-        {"NV_READ_IMEI refused", {With(TANDEKOR_NV_READ_IMEI, {Out{16}})}, Without({550})},
-        {"NV_WRITE_IMEI of other characters",
-         Sweep(TANDEKOR_NV_WRITE_IMEI,
-               {{"?:;<=>?89012345", "\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7\xF7"}})},
         {"SpecialGetFmRadioInfo", Sweep(TANDEKOR_SpecialGetFmRadioInfo, {{0, 1, 2, 3, 255}})},
-        {"SpecialGetFmRadioInfo of other bits", Sweep(TANDEKOR_SpecialGetFmRadioInfo, {{0, 1, 2}}),
-         [](auto)
-         {
-             ThePhone().factory.i2c[{0x10, 0}] = Table('\xA7', 28);
-             ThePhone().factory.i2c[{0x10, 0}][9] = 0x58;
-         }},
         {"SetFactoryTrackingByte of other addresses",
          Sweep(TANDEKOR_SetFactoryTrackingByte, {{0}, {127, 128, 0x8001}})},
         {"UploadCEFS_File2", {With(TANDEKOR_UploadCEFS_File2, {1, -8, 3})}, Qpst},
         {"UploadCEFS_File", {With(TANDEKOR_UploadCEFS_File, {1, 2})}, Qpst},
-        {"Uploads in the other mode",
-         {With(TANDEKOR_UploadCEFS_File2, {1, 2, 3}), With(TANDEKOR_UploadCEFS_File, {1, 2})}},
         {"RX_WCDMA_Adjust without a table", {RxWcdma(6, nullptr, 4, 5, 0)}},
         {"RX_WCDMA_Adjust of unknown bands",
          {RxWcdma(7, table, 5, 6, 0), RxWcdma(4, table, 3, 6, 0), RxWcdma(4, table, 5, 7, 0),
@@ -450,9 +328,6 @@ std::vector<ProcedureRun> FurtherRuns()
          Sweep(NV_READ_WCDMA_LNA_RANGE_FALL, {{0, 3, 4, 5, 6, 7, 0x0104}, {Out{2}}, {Out{2}}, {Out{2}}})},
         {"NV_READ_WCDMA_LNA_RANGE_RISE",
          Sweep(NV_READ_WCDMA_LNA_RANGE_RISE, {{0, 3, 4, 5, 6, 7, 0x0104}, {Out{2}}, {Out{2}}, {Out{2}}})},
-        {"NV_READ_WCDMA_LNA_RANGE_RISE refused",
-         {With(NV_READ_WCDMA_LNA_RANGE_RISE, {4, Out{2}, Out{2}, Out{2}})},
-         Without({859})},
         {"NV_WRITE_WCDMA_LNA_OFFSET",
          Sweep(NV_WRITE_WCDMA_LNA_OFFSET,
                {{0, 3, 4, 5, 6, 7}, {0x0102}, {table, null}, {-2}, {other}, {-0x8000}, {table}})},
@@ -467,29 +342,9 @@ std::vector<ProcedureRun> FurtherRuns()
         {"FTM_GSM_BER_StartCall", Sweep(FTM_GSM_BER_StartCall, {{0, 1, 255}, {2}, {3}, {4}})},
         {"FTM_GSM_BER_StopCall", Sweep(FTM_GSM_BER_StopCall, {{0, 1, 255}})},
         {"FTM_EGPRS_BER_StartCall", Sweep(FTM_EGPRS_BER_StartCall, {{0, 1, 255}, {2}, {3}, {4}})},
-        {"AFC_Deviation without the waveform", {With(TANDEKOR_AFC_Deviation, {1, 2, 3, 0, 4, 5})}},
         {"CheckDACValues of other counts", Sweep(TANDEKOR_CheckDACValues, {{0, 1, 3}, {0, 2}})},
         {"CheckDACValues one by one", Sweep(TANDEKOR_CheckDACValues, {{1, 3}, {0, 2}}), Phone(0xC0, 4)},
-        {"CheckDACValues of a reading that changes",
-         {With(TANDEKOR_CheckDACValues, {3, 1})},
-         [](auto)
-         {
-             BecomePhone(0xC0, 4);
-             BeforeCall("QLIB_FTM_GET_ADC_VAL", 2, [] { ThePhone().radio.adc[0] = 0xFFFF; });
-         }},
-        {"Virtual_SIM of a slow phone",
-         {After([] { ThePhone().startTimeMs = 16000; }, sim), After([] { ThePhone().startTimeMs = 16001; }, sim)},
-         OnlineUntilItIsReset},
-        {"Virtual_SIM, never back",
-         {After([] { ThePhone().startTimeMs = 1'000'000; }, sim),
-          After([] { BeforeCall("QLIB_IsFTM_Mode", 3, [] { simulator::RefuseCallsFrom("QLIB_IsPhoneConnected"); }); },
-                sim)},
-         OnlineUntilItIsReset},
         {"Virtual_SIM of another code", Sweep(TANDEKOR_Virtual_SIM, {{"123456", null}}), Online},
-        {"SimSimulation",
-         {With(SimSimulation), After([] { ThePhone().security.status = 7; }, With(SimSimulation)),
-          After([] { ThePhone().security.commandStatus = 0x10000; }, With(SimSimulation)),
-          After([] { ThePhone().security.status = ThePhone().security.commandStatus = 1; }, With(SimSimulation))}},
         {"SpecialSetRtcActualTime",
          {With(TANDEKOR_SpecialSetRtcActualTime)},
          [](auto) { simulator::TheClock().utcStart = 1798761599; }},
@@ -503,30 +358,7 @@ std::vector<ProcedureRun> FurtherRuns()
          Sweep(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {{0, 1, 2, 3, 4, 5, 6, 7, 8, 0x0101}, {0, 1, 255}})},
         {"FTM_SetKeyPadBackLightGPIO of model 3",
          Sweep(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {{0, 1, 4, 5, 6, 7, 8, 0x0105}, {0, 1, 255}}), Phone(0x405, 3)},
-        {"FTM_TestFlip by direction and level",
-         {After(Register(0x48000004, 0x200) + Register(0x4800000C, 0x200) + Register(0x48000064, ~0x200U),
-                With(TANDEKOR_FTM_TestFlip, {0})),
-          After(Register(0x48000004, 0x200) + Register(0x4800000C, ~0x200U) + Register(0x48000064, 0x200),
-                With(TANDEKOR_FTM_TestFlip, {0})),
-          After(Register(0x48000004, ~0x200U) + Register(0x4800000C, ~0x200U) + Register(0x48000064, 0x200),
-                With(TANDEKOR_FTM_TestFlip, {0})),
-          With(TANDEKOR_FTM_TestFlip, {1})},
-         Phone(0x405, 3)},
         {"FTM_KOLT_CAMERA_SWITCH", Sweep(TANDEKOR_FTM_KOLT_CAMERA_SWITCH, {{0, 1, 2, 255}})},
-        {"FTM_KOLT_CAMERA_SWITCH of set registers", Sweep(TANDEKOR_FTM_KOLT_CAMERA_SWITCH, {{0, 1}}),
-         [](auto)
-         {
-             for (const uint32_t address : std::initializer_list<uint32_t>{0x48000000, 0x48000004, 0x48000008,
-                                                                           0x4800000C, 0x84000158, 0x84000164})
-                 SetRegister(address, 0xFFFFFFFF);
-         }},
-        {"FTM_I2C_GetCameraId of other cameras", Sweep(TANDEKOR_FTM_I2C_GetCameraId, {{0, 1, 2}})},
-        {"FTM_I2C_GetCameraId with faults",
-         {After(Refuse("QLIB_FTM_CAMERA_START") + Refuse("QLIB_FTM_CAMERA_STOP"), cameraId),
-          After(Refuse("QLIB_SendSync", 2) + Refuse("QLIB_FTM_CAMERA_STOP"), cameraId),
-          After(camera("QLIB_FTM_CAMERA_SET_SENSOR_ID"), cameraId), After(camera("QLIB_FTM_CAMERA_START"), cameraId),
-          After(camera("QLIB_FTM_CAMERA_STOP"), cameraId), After([] { ThePhone().factory.i2c.clear(); }, cameraId),
-          After(noReply, cameraId)}},
     };
 }
 
