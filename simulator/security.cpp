@@ -54,7 +54,7 @@ uint8_t RunUpload(const std::string& operation)
         Report(progressEvent, static_cast<uint32_t>(uint64_t{upload.totalSize} * step / upload.steps));
     }
     Report(lastStatusEvent, upload.lastStatus);
-    return upload.succeeds;
+    return upload.result;
 }
 
 }  // namespace
@@ -114,7 +114,7 @@ uint8_t QLIB_GSDIDIAG_SECURE_DEVICE_INFO_CMD(ResourceContext hResourceContext, u
     return SecurityCommand(piGsdiValue, piStatus, [](Security& security) { security.secured = true; });
 }
 
-// --- flash: the first five values and the byte tell their place, the last two are maker and device
+// --- flash: the first five values and the byte number their place, the last two are maker and device
 uint8_t QLIB_EFS2_DIAG_DEV_INFO(ResourceContext hResourceContext, uint32_t* pi1, uint32_t* pi2, uint32_t* pi3,
                                 uint32_t* pi4, uint32_t* pi5, uint32_t* pi6, uint32_t* pi7, uint8_t* piByte,
                                 char* sDeviceName100)

@@ -77,7 +77,7 @@ extern "C"
     {
         TANDEKOR_MODE_ONLINE = 0,
         TANDEKOR_MODE_FTM = 1,
-        TANDEKOR_MODE_UNCHANGED = 255 /* TANDEKOR_BootBox_SwitchMobileOn alone: whatever mode it comes up in */
+        TANDEKOR_MODE_UNCHANGED = 255 /* TANDEKOR_BootBox_SwitchMobileOn only: whatever mode it comes up in */
     };
 
     /*

@@ -133,7 +133,7 @@ extern "C"
                                                                            uint16_t iIrdaLength_ms);
 
     /*
-     * Sends a byte by infrared and asks what was received, in two requests. No status is looked at.
+     * Sends a byte by infrared and asks what was received, in two requests. No status is checked.
      *
      * [in]  iIrdaTestByte      the byte
      * [in]  iIrdaReservedWord  not read
@@ -153,7 +153,7 @@ extern "C"
                                                                          uint16_t* piStatusWord);
 
     /*
-     * Fetches the result of the A-GPS carrier-to-noise measurement; no status is looked at.
+     * Fetches the result of the A-GPS carrier-to-noise measurement; no status is checked.
      *
      * [out] piCtoNValue  carrier-to-noise ratio in the phone's unit
      * [out] piErrorCode  0, or after a missing reply the error code of the log
@@ -324,7 +324,7 @@ extern "C"
                                                                   uint8_t* iIMSI_number);
 
     /*
-     * The mode of the SIM; no status is looked at.
+     * The mode of the SIM; no status is checked.
      *
      * [in,out] SIM_MODE  shown in the log; then the low byte of the reply's last word, 0 for a reply without one
      */

@@ -110,7 +110,8 @@ extern "C"
 
     /*
      * Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which
-     * takes about 20 seconds and at most about 72.
+     * takes about 20 seconds and at most about 72. Of a phone that does not answer again a remark is logged, without
+     * "Failure".
      *
      * [in] bFTMMode  TandekorPhoneMode; written as it is
      */
@@ -127,18 +128,16 @@ extern "C"
     /* --- Power of the phone, by a boot box */
 
     /*
-     * Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode
-     * asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+     * Switches the phone on by the boot box, asks up to 70 times in 28 seconds for its first answer and brings it
+     * into the mode asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+     * An answer to the last of the 70 is too late; no line says so. No step has a start line here.
      *
-     * [in] iBootBoxPort  number of the boot box's serial port. The port is opened by the first call for this process
-     *         alone and
-     *                    stays open until the connection ends; another number than the open one is refused. On Windows
-     *                    the port
-     *                    is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as
-     *                    /dev/com5
-     *                    -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process
-     *                    holds the
-     *                    port, its lines may be raised before it is refused
+     * [in] iBootBoxPort  number of the boot box's serial port. The first call opens the port for this process only; it
+     *                    stays open until the connection ends, and another number than the open one is refused. On
+     *                    Windows the port is COM<number>. Elsewhere it is the device /dev/com<number> if there is one
+     *                    (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else
+     *                    /dev/ttyS<number - 1>. Where another process holds the port, its lines may be raised before
+     *                    it is refused
      * [in] bFTMMode      TandekorPhoneMode; any other value than its first two leaves the mode unchanged
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOn(ResourceContext hResourceContext,
@@ -170,7 +169,8 @@ extern "C"
                                                             uint32_t* piMSMModel, uint32_t* piPhoneModel);
 
     /*
-     * The phone model of a hardware variant on a chip family. No phone is asked.
+     * The phone model of a hardware variant on a chip family. No phone is asked, and nothing is
+     * logged.
      *
      * [in]  iVerNumber    hardware variant
      * [in]  iMSMModel     chip family, 1 to 4
@@ -308,7 +308,7 @@ extern "C"
 
     /*
      * Stores a receiver calibration in one batch of NV writes. After a failure the writes so far stay in the host
-     * library's queue. Every table may be null to be left unchanged; its content is the caller's and is not looked at.
+     * library's queue. Every table may be null to be left unchanged; its content is the caller's and is not checked.
      *
      * [in] bStartBatchMode  passed to the host library; the batch is flushed whatever it is
      * [in, or null] Gsm900Range1[16], Gsm900Range2[16], Gsm900Range3[16], Gsm900Range4[16]  gain ranges of GSM 900
@@ -536,8 +536,8 @@ extern "C"
      * clock, back online, SIM; takes at least 4 and at most 42 seconds of waits. A failed clock is logged and passed
      * over. The log is muted while the phone restarts, and never left muted.
      *
-     * [in]  iSPC          service programming code, six digits; shown in the log
-     * [out] piSPC_Result  as the host library has it; not looked at
+     * [in]  iSPC          service programming code, six digits and a NUL; shown in the log
+     * [out] piSPC_Result  as the host library has it; not checked
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC,
                                                             uint8_t* piSPC_Result);
@@ -810,7 +810,7 @@ extern "C"
                                                                       uint8_t* pcFmValue);
 
     /*
-     * As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 alone.
+     * As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 only.
      *
      * [in]     iOperationType  1 writes, any other value reads
      * [in]     iDataAddress    0 to 127

@@ -3,6 +3,7 @@
 
 #include <cstdarg>
 #include <cstddef>
+#include <string_view>
 
 #include "tandekor/common.h"
 
@@ -12,14 +13,18 @@ namespace tandekor
 // Every text is formatted in a buffer of this size, NUL included, and cut to it.
 constexpr size_t textBufferSize = 12292;
 
+// How the lines about results end, where nothing else is usual.
+constexpr char completedEnding[] = " - Completed successfully\n";
+constexpr char failureEnding[] = " - Failure\n";
+
 // A line of the log that is put together in one buffer. It ends at its first NUL, as C texts do: also at one that a %c
 // field of the value 0 puts into it; what is added next then takes the place of that NUL.
 class LogLine
 {
 public:
-    explicit LogLine(const char* start);
+    explicit LogLine(std::string_view start);
 
-    void Add(const char* text);
+    void Add(std::string_view text);
     void AddFormatted(const char* format, va_list values);
     void Write(ResourceContext hResourceContext) const;
 
@@ -40,12 +45,16 @@ public:
 
     const char* Text() const { return line + 1; }
 
-    // Writes a tab, the text and an ending to the log.
+    // Writes a tab, the text and an ending to the log; the plain one is no format.
+    void WriteWithPlainEnding(ResourceContext hResourceContext, std::string_view ending) const;
     void WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const
         __attribute__((format(printf, 3, 4)));
 
 private:
     void Fill(const char* format, va_list values);
+    // Writes the line after the ending was put to its end by the function, which takes the place and the room there.
+    template <typename PutEnding>
+    void WriteLine(ResourceContext hResourceContext, PutEnding putEnding) const;
 
     mutable char line[1 + textBufferSize];  // with the tab, and an ending while that is written
 };

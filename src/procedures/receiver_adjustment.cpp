@@ -42,8 +42,10 @@ uint8_t TANDEKOR_RX_WCDMA_Adjust(ResourceContext hResourceContext, uint8_t iLNAr
                                  int16_t* piLNAoffsetValue)
 {
     const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
+        return 0;
     const uint8_t firstOfTable = piVsFreq == nullptr ? uint8_t{0} : piVsFreq[0];
-    return phone.CheckConnection() && phone.TxOff() && phone.SetLnaRange(iLNArange)
+    return phone.TxOff() && phone.SetLnaRange(iLNArange)
            && phone.Step(
                "QLIB_FTM_GET_DVGA_OFFSET", "(iExpectedRX_AGC = %d)",
                [&] { return QLIB_FTM_GET_DVGA_OFFSET(hResourceContext, iDvgaExpectedRX_AGC, piDVGAoffsetValue); },

@@ -741,7 +741,7 @@ FUNCTIONS = {
             ('iValue', 'int32_t', False, False, 'in', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Attaches to the packet domain or detaches from it (+CGATT).\n\nhResourceContext [in]  handle of the connection\niValue [in]  1 attaches, 0 detaches, -1 sends the command alone; of any other value the first digit of its unsigned number is sent\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Attaches to the packet domain or detaches from it (+CGATT).\n\nhResourceContext [in]  handle of the connection\niValue [in]  1 attaches, 0 detaches, -1 sends no value; of any other value the first digit of its unsigned number is sent\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Get_WS46': (
         'uint8_t',
@@ -759,7 +759,7 @@ FUNCTIONS = {
             ('iValue', 'uint8_t', False, False, 'in', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Selects the wireless network (+WS46).\n\nhResourceContext [in]  handle of the connection\niValue [in]  two digits are sent, so that 5 goes out as 05; 255 sends the command alone. From 100 on the two characters are the first digit of iValue / 10 and the last digit of iValue\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Selects the wireless network (+WS46).\n\nhResourceContext [in]  handle of the connection\niValue [in]  two digits are sent, so that 5 goes out as 05; 255 sends no value. From 100 on the two characters are the first digit of iValue / 10 and the last digit of iValue\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Get_IPR': (
         'uint8_t',
@@ -964,7 +964,7 @@ FUNCTIONS = {
             ('sOper', 'char', True, True, 'in', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        "Selects the operator (+COPS).\n\nhResourceContext [in]  handle of the connection\niMode [in]  as above; the first digit of its unsigned number is sent\niFormat [in]  as above; -1 sends the mode alone\nsOper [in]  name; at most 16 characters are sent, and none of a name that begins with '-'\npStatus [out]  how the reply ended (TandekorAtStatus)\n",
+        "Selects the operator (+COPS).\n\nhResourceContext [in]  handle of the connection\niMode [in]  as above; the first digit of its unsigned number is sent\niFormat [in]  as above; -1 sends only the mode\nsOper [in]  name; at most 16 characters are sent, and none of a name that begins with '-'\npStatus [out]  how the reply ended (TandekorAtStatus)\n",
     ),
     'TANDEKOR_AT_Get_CGACT': (
         'uint8_t',
@@ -1125,7 +1125,7 @@ FUNCTIONS = {
             ('sNewPin', 'char', True, True, 'in', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Gives a code (+CPIN).\n\nhResourceContext [in]  handle of the connection\nsPin [in]  text of digits\nsNewPin [in]  new code, of which exactly four characters are sent; may be left out\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Enters a code (+CPIN).\n\nhResourceContext [in]  handle of the connection\nsPin [in]  text of digits\nsNewPin [in]  new code, of which exactly four characters are sent; may be left out\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Set_CCFC': (
         'uint8_t',
@@ -1154,7 +1154,7 @@ FUNCTIONS = {
             ('piCount', 'uint32_t', True, False, 'out', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        "State of call forwarding, up to 10 seconds. Nothing is written unless *pStatus is 0. A line end after any field\nends the list, so a reply with a line for each class gives the first alone.\n\nhResourceContext [in]  handle of the connection\niReason [in]  as above\naiState [out]  1 active, 0 not\naiClass [out]  class of services\nasNumber [out]  rows of 12 characters without a NUL, at most the first 12 of a number; '-' for none. A number in double quotes counts as missing\naiType [out]  type of the address\naiTime [out]  seconds before a call is forwarded\npiCount [out]  how many entries there are\npStatus [out]  how the reply ended (TandekorAtStatus)\n",
+        "State of call forwarding, up to 10 seconds. Nothing is written unless *pStatus is 0. A line end after any field\nends the list, so a reply with a line for each class gives only the first.\n\nhResourceContext [in]  handle of the connection\niReason [in]  as above\naiState [out]  1 active, 0 not\naiClass [out]  class of services\nasNumber [out]  rows of 12 characters without a NUL, at most the first 12 of a number; '-' for none. A number in double quotes counts as missing\naiType [out]  type of the address\naiTime [out]  seconds before a call is forwarded\npiCount [out]  how many entries there are\npStatus [out]  how the reply ended (TandekorAtStatus)\n",
     ),
     'TANDEKOR_AT_Set_CCWA': (
         'uint8_t',
@@ -1228,7 +1228,7 @@ FUNCTIONS = {
             ('sCharset', 'char', True, True, 'in', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Selects the character set (+CSCS).\n\nhResourceContext [in]  handle of the connection\nsCharset [in]  at most 16 characters are sent; left out, the command is sent alone\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Selects the character set (+CSCS).\n\nhResourceContext [in]  handle of the connection\nsCharset [in]  at most 16 characters are sent; left out, the command is sent without it\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_CRSM': (
         'uint8_t',
@@ -1288,7 +1288,7 @@ FUNCTIONS = {
             ('sData', 'char', True, False, 'out', False, 'iMaxLength', None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nlooked at if it ends in K or k, also after a failed exchange; else nothing is written.\n\nis 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it; 0 for a reply without a comma\npiStat [out]  state as a character, \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nchecked only if it ends in K or k, also after a failed exchange; else nothing is written.\n\nis 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it; 0 for a reply without a comma\npiStat [out]  state as a character, \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Set_SMGR': (
         'uint8_t',
@@ -1301,7 +1301,7 @@ FUNCTIONS = {
             ('sData', 'char', True, False, 'out', False, 'iMaxLength', None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nlooked at if it ends in K or k, also after a failed exchange; else nothing is written.\n\nis 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it; 0 for a reply without a comma\npiStat [out]  state as a character, \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nchecked only if it ends in K or k, also after a failed exchange; else nothing is written.\n\nis 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it; 0 for a reply without a comma\npiStat [out]  state as a character, \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_CMSS': (
         'uint8_t',
@@ -1511,7 +1511,7 @@ FUNCTIONS = {
             ('piIrdaResult1', 'uint32_t', True, False, 'out', False, None, None),
             ('piIrdaResult2', 'uint32_t', True, False, 'out', False, None, None),
         ),
-        'Sends a byte by infrared and asks what was received, in two requests. No status is looked at.\n\nhResourceContext [in]  handle of the connection\niIrdaTestByte [in]  the byte\niIrdaReservedWord [in]  not read\npiIrdaResult1 [out]  the first of the last two double words of the second reply\npiIrdaResult2 [out]  the second\n',
+        'Sends a byte by infrared and asks what was received, in two requests. No status is checked.\n\nhResourceContext [in]  handle of the connection\niIrdaTestByte [in]  the byte\niIrdaReservedWord [in]  not read\npiIrdaResult1 [out]  the first of the last two double words of the second reply\npiIrdaResult2 [out]  the second\n',
     ),
     'TANDEKOR_FTM_START_AGPS_CTON_MEAS': (
         'uint8_t',
@@ -1528,7 +1528,7 @@ FUNCTIONS = {
             ('piCtoNValue', 'uint16_t', True, False, 'out', False, None, None),
             ('piErrorCode', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        "Fetches the result of the A-GPS carrier-to-noise measurement; no status is looked at.\n\nhResourceContext [in]  handle of the connection\npiCtoNValue [out]  carrier-to-noise ratio in the phone's unit\npiErrorCode [out]  0, or after a missing reply the error code of the log\n",
+        "Fetches the result of the A-GPS carrier-to-noise measurement; no status is checked.\n\nhResourceContext [in]  handle of the connection\npiCtoNValue [out]  carrier-to-noise ratio in the phone's unit\npiErrorCode [out]  0, or after a missing reply the error code of the log\n",
     ),
     'TANDEKOR_FTM_RTC_START': (
         'uint8_t',
@@ -1718,7 +1718,7 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('SIM_MODE', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        "The mode of the SIM; no status is looked at.\n\nhResourceContext [in]  handle of the connection\nSIM_MODE [in,out]  shown in the log; then the low byte of the reply's last word, 0 for a reply without one\n",
+        "The mode of the SIM; no status is checked.\n\nhResourceContext [in]  handle of the connection\nSIM_MODE [in,out]  shown in the log; then the low byte of the reply's last word, 0 for a reply without one\n",
     ),
     'TANDEKOR_FTM_SIM_READ_KC_FILE': (
         'uint8_t',
@@ -1988,7 +1988,7 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('bFTMMode', 'uint8_t', False, False, 'in', False, None, None),
         ),
-        'Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which\ntakes about 20 seconds and at most about 72.\n\nhResourceContext [in]  handle of the connection\nbFTMMode [in]  TandekorPhoneMode; written as it is\n',
+        'Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which\ntakes about 20 seconds and at most about 72. Of a phone that does not answer again a remark is logged, without\n"Failure".\n\nhResourceContext [in]  handle of the connection\nbFTMMode [in]  TandekorPhoneMode; written as it is\n',
     ),
     'TANDEKOR_ONLINE_TO_FTM': (
         'uint8_t',
@@ -2011,7 +2011,7 @@ FUNCTIONS = {
             ('iBootBoxPort', 'uint16_t', False, False, 'in', False, None, None),
             ('bFTMMode', 'uint8_t', False, False, 'in', False, None, None),
         ),
-        "Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode\nasked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).\n\nhResourceContext [in]  handle of the connection\niBootBoxPort [in]  number of the boot box's serial port. The port is opened by the first call for this process alone and stays open until the connection ends; another number than the open one is refused. On Windows the port is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process holds the port, its lines may be raised before it is refused\nbFTMMode [in]  TandekorPhoneMode; any other value than its first two leaves the mode unchanged\n",
+        "Switches the phone on by the boot box, asks up to 70 times in 28 seconds for its first answer and brings it\ninto the mode asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).\nAn answer to the last of the 70 is too late; no line says so. No step has a start line here.\n\nhResourceContext [in]  handle of the connection\niBootBoxPort [in]  number of the boot box's serial port. The first call opens the port for this process only; it stays open until the connection ends, and another number than the open one is refused. On Windows the port is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process holds the port, its lines may be raised before it is refused\nbFTMMode [in]  TandekorPhoneMode; any other value than its first two leaves the mode unchanged\n",
     ),
     'TANDEKOR_BootBox_SwitchMobileOff': (
         'uint8_t',
@@ -2039,7 +2039,7 @@ FUNCTIONS = {
             ('iMSMModel', 'uint32_t', False, False, 'in', False, None, None),
             ('piPhoneModel', 'uint32_t', True, False, 'out', False, None, None),
         ),
-        'The phone model of a hardware variant on a chip family. No phone is asked.\n\nhResourceContext [in]  handle of the connection\niVerNumber [in]  hardware variant\niMSMModel [in]  chip family, 1 to 4\npiPhoneModel [out]  TandekorPhoneModel, 0 for a pair that is not known\n',
+        'The phone model of a hardware variant on a chip family. No phone is asked, and nothing is\nlogged.\n\nhResourceContext [in]  handle of the connection\niVerNumber [in]  hardware variant\niMSMModel [in]  chip family, 1 to 4\npiPhoneModel [out]  TandekorPhoneModel, 0 for a pair that is not known\n',
     ),
     'TANDEKOR_CheckSWBuild': (
         'uint8_t',
@@ -2177,7 +2177,7 @@ FUNCTIONS = {
             ('iOffset', 'uint16_t', False, False, 'in', False, None, None),
             ('piVsFreq', 'uint8_t', True, False, 'in', True, 16, None),
         ),
-        "Stores a receiver calibration in one batch of NV writes. After a failure the writes so far stay in the host\nlibrary's queue. Every table may be null to be left unchanged; its content is the caller's and is not looked at.\n\nhResourceContext [in]  handle of the connection\nbStartBatchMode [in]  passed to the host library; the batch is flushed whatever it is\nGsm900Range1 [in, or null]  gain ranges of GSM 900\nGsm900Range2 [in, or null]  gain ranges of GSM 900\nGsm900Range3 [in, or null]  gain ranges of GSM 900\nGsm900Range4 [in, or null]  gain ranges of GSM 900\nGsm1900Range1 [in, or null]  gain ranges of GSM 1900\nGsm1900Range2 [in, or null]  gain ranges of GSM 1900\nGsm1900Range3 [in, or null]  gain ranges of GSM 1900\nGsm1900Range4 [in, or null]  gain ranges of GSM 1900\nGsm1800Range1 [in, or null]  gain ranges of GSM 1800\nGsm1800Range2 [in, or null]  gain ranges of GSM 1800\nGsm1800Range3 [in, or null]  gain ranges of GSM 1800\nGsm1800Range4 [in, or null]  gain ranges of GSM 1800\nGsm850Range1 [in, or null]  gain ranges of GSM 850\nGsm850Range2 [in, or null]  gain ranges of GSM 850\nGsm850Range3 [in, or null]  gain ranges of GSM 850\nGsm850Range4 [in, or null]  gain ranges of GSM 850\neNvBand [in]  TandekorWcdmaBand of the LNA offsets\niOffset1 [in]  LNA offsets\npiVsFreq1 [in, or null]  LNA offsets by frequency\niOffset2 [in]  LNA offsets\npiVsFreq2 [in, or null]  LNA offsets by frequency\niOffset3 [in]  LNA offsets\npiVsFreq3 [in, or null]  LNA offsets by frequency\neVgaNvBand [in]  TandekorWcdmaBand of the VGA gain\niOffset [in]  VGA gain offset\npiVsFreq [in, or null]  VGA gain by frequency\n",
+        "Stores a receiver calibration in one batch of NV writes. After a failure the writes so far stay in the host\nlibrary's queue. Every table may be null to be left unchanged; its content is the caller's and is not checked.\n\nhResourceContext [in]  handle of the connection\nbStartBatchMode [in]  passed to the host library; the batch is flushed whatever it is\nGsm900Range1 [in, or null]  gain ranges of GSM 900\nGsm900Range2 [in, or null]  gain ranges of GSM 900\nGsm900Range3 [in, or null]  gain ranges of GSM 900\nGsm900Range4 [in, or null]  gain ranges of GSM 900\nGsm1900Range1 [in, or null]  gain ranges of GSM 1900\nGsm1900Range2 [in, or null]  gain ranges of GSM 1900\nGsm1900Range3 [in, or null]  gain ranges of GSM 1900\nGsm1900Range4 [in, or null]  gain ranges of GSM 1900\nGsm1800Range1 [in, or null]  gain ranges of GSM 1800\nGsm1800Range2 [in, or null]  gain ranges of GSM 1800\nGsm1800Range3 [in, or null]  gain ranges of GSM 1800\nGsm1800Range4 [in, or null]  gain ranges of GSM 1800\nGsm850Range1 [in, or null]  gain ranges of GSM 850\nGsm850Range2 [in, or null]  gain ranges of GSM 850\nGsm850Range3 [in, or null]  gain ranges of GSM 850\nGsm850Range4 [in, or null]  gain ranges of GSM 850\neNvBand [in]  TandekorWcdmaBand of the LNA offsets\niOffset1 [in]  LNA offsets\npiVsFreq1 [in, or null]  LNA offsets by frequency\niOffset2 [in]  LNA offsets\npiVsFreq2 [in, or null]  LNA offsets by frequency\niOffset3 [in]  LNA offsets\npiVsFreq3 [in, or null]  LNA offsets by frequency\neVgaNvBand [in]  TandekorWcdmaBand of the VGA gain\niOffset [in]  VGA gain offset\npiVsFreq [in, or null]  VGA gain by frequency\n",
     ),
     'TANDEKOR_GSM_PA_OutputPower': (
         'uint8_t',
@@ -2355,7 +2355,7 @@ FUNCTIONS = {
             ('iSPC', 'char', True, False, 'in', False, None, None),
             ('piSPC_Result', 'uint8_t', True, False, 'out', False, None, None),
         ),
-        'Activates the on-chip virtual SIM of an online phone: service programming code, FTM mode (by a reset if need be),\nclock, back online, SIM; takes at least 4 and at most 42 seconds of waits. A failed clock is logged and passed\nover. The log is muted while the phone restarts, and never left muted.\n\nhResourceContext [in]  handle of the connection\niSPC [in]  service programming code, six digits; shown in the log\npiSPC_Result [out]  as the host library has it; not looked at\n',
+        'Activates the on-chip virtual SIM of an online phone: service programming code, FTM mode (by a reset if need be),\nclock, back online, SIM; takes at least 4 and at most 42 seconds of waits. A failed clock is logged and passed\nover. The log is muted while the phone restarts, and never left muted.\n\nhResourceContext [in]  handle of the connection\niSPC [in]  service programming code, six digits and a NUL; shown in the log\npiSPC_Result [out]  as the host library has it; not checked\n',
     ),
     'TANDEKOR_SpecialSetRtcActualTime': (
         'uint8_t',
@@ -2619,7 +2619,7 @@ FUNCTIONS = {
             ('iDataAddress', 'uint16_t', False, False, 'in', False, None, None),
             ('pFactoryData', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        'As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 alone.\n\nhResourceContext [in]  handle of the connection\niOperationType [in]  1 writes, any other value reads\niDataAddress [in]  0 to 127\npFactoryData [in,out]  the byte\n',
+        'As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 only.\n\nhResourceContext [in]  handle of the connection\niOperationType [in]  1 writes, any other value reads\niDataAddress [in]  0 to 127\npFactoryData [in,out]  the byte\n',
     ),
     'TANDEKOR_UploadCEFS_File2': (
         'uint8_t',
@@ -2773,7 +2773,7 @@ FUNCTIONS = {
             ('pBytes', 'uint8_t', True, True, 'in', False, 'iLength', None),
             ('iLength', 'uint32_t', False, False, 'in', False, None, None),
         ),
-        '`i2c 0x45 0x222F 13`: content of a register behind the I2C bus, by device and register address.\n\niDevice [in]  \niRegister [in]  \npBytes [in]  \niLength [in]  \n',
+        '`i2c 0x45 0x222F 13`: content of a register on the I2C bus, by device and register address.\n\niDevice [in]  \niRegister [in]  \npBytes [in]  \niLength [in]  \n',
     ),
     'PHONE_SetAdc': (
         'uint8_t',
@@ -2899,7 +2899,7 @@ FUNCTIONS = {
             ('iOperation', 'uint8_t', False, False, 'in', False, None, None),
             ('iResponse', 'uint8_t', False, False, 'in', False, None, None),
         ),
-        '`obex-response 0x83 0xD3`: the file server answers every packet of this operation with the response code alone; 0\nends that.\n\niOperation [in]  \niResponse [in]  \n',
+        '`obex-response 0x83 0xD3`: the file server answers every packet of this operation with only the response code; 0\nends that.\n\niOperation [in]  \niResponse [in]  \n',
     ),
     'PHONE_Record': (
         'uint8_t',
