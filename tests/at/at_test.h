@@ -7,20 +7,6 @@
 namespace tandekor::test
 {
 
-// Out-values as the bytes that they have in the caller's memory.
-template <typename Number>
-Bytes InMemory(const std::vector<Number>& numbers)
-{
-    const auto* start = reinterpret_cast<const uint8_t*>(numbers.data());
-    return {start, start + numbers.size() * sizeof(Number)};
-}
-template <typename... Numbers>
-Bytes U32(Numbers... numbers)
-{
-    return InMemory(std::vector{static_cast<uint32_t>(numbers)...});
-}
-inline Bytes U16(uint16_t number) { return InMemory(std::vector{number}); }
-
 // The bytes of a text with the NUL behind it.
 inline Bytes Text(const std::string& text) { return Ascii(text + '\0'); }
 
@@ -37,7 +23,7 @@ struct SentCommand
 {
     Call call;
     std::string request;  // without the carriage return and the NUL behind it
-    std::string log;
+    std::string log;      // behind TANDEKOR_AT_, and without () at its end
     uint32_t timeoutMs = 3000;
     std::vector<Bytes> writtenOnFailure = {};
 };
@@ -66,7 +52,7 @@ class AtTest : public BenchTest
 {
 protected:
     // The call succeeds with this status, and writes these bytes and no more.
-    void ExpectOuts(const Call& call, uint16_t status, const std::vector<Bytes>& written);
+    void ExpectOuts(const Call& call, uint16_t status, std::vector<Bytes> written);
 };
 
 }  // namespace tandekor::test

@@ -27,56 +27,57 @@ Call Crsm(int command, int fileId, int p1, int p2, int p3, const std::string& da
 {
     return With(TANDEKOR_AT_CRSM, {command, fileId, p1, p2, p3, data, Out{4}, Out{4}, Out{4096}});
 }
+Call Keys(const std::string& text) { return With(TANDEKOR_AT_Set_CKPD, {text, 0xFFFF, 0}); }
+Call Pin(const std::string& text) { return With(TANDEKOR_AT_Set_CPIN, {text, "-"}); }
+Call CentreOf(const std::string& text) { return With(TANDEKOR_AT_Set_CSCA, {text, "-"}); }
+Call Channels(const std::string& text) { return With(TANDEKOR_AT_Set_CSCB, {1, text, "-"}); }
+Call Schemes(const std::string& text) { return With(TANDEKOR_AT_Set_CSCB, {1, "", text}); }
+Call CrsmWith(const std::string& text) { return Crsm(1, 2, 3, 4, 5, text); }
 const Call crsmStatus = Crsm(242, -1, 0, 0, 0, "-");
 
 const std::vector<SentCommand> commands = {
-    {With(TANDEKOR_AT_Set_CKPD, {"123", 5, 0xFFFF}), "AT+CKPD=123,5",
-     "TANDEKOR_AT_Set_CKPD(Keys: 123, Time: 5, Pause: 65535)"},
-    {With(TANDEKOR_AT_Set_CKPD, {"%s#", 0xFFFF, 5}), "AT+CKPD=%s#",
-     "TANDEKOR_AT_Set_CKPD(Keys: %s#, Time: 65535, Pause: 5)"},
-    {With(TANDEKOR_AT_Set_CKPD, {"*", 0, 65534}), "AT+CKPD=*,0,65534",
-     "TANDEKOR_AT_Set_CKPD(Keys: *, Time: 0, Pause: 65534)"},
-    {With(TANDEKOR_AT_Set_CLCK, {"SC", 1, password, 7}), "AT+CLCK=\"SC\",1,1234,7", "TANDEKOR_AT_Set_CLCK()", 40000},
-    {With(TANDEKOR_AT_Set_CLCK, {"AOX", 12, "1\12\x63\xFF", -1}), "AT+CLCK=\"AO\",1,4192", "TANDEKOR_AT_Set_CLCK()",
-     40000},
-    {With(TANDEKOR_AT_Set_CLCK, {"S", 0, noPassword, 7}), "AT+CLCK=\"S\",0", "TANDEKOR_AT_Set_CLCK()", 40000},
-    {With(TANDEKOR_AT_Set_CLCK, {"SC", 2, password, 7}), "AT+CLCK=\"SC\",2", "TANDEKOR_AT_Set_CLCK()", 40000},
-    {With(TANDEKOR_AT_Set_SLCK, {"PN", 1, password, 128}), "AT^SLCK=\"PN\",1,1234,128", "TANDEKOR_AT_Set_SLCK()",
-     40000},
-    {With(TANDEKOR_AT_Set_SLCK, {"PN", 1, password, 0}), "AT^SLCK=\"PN\",1,1234,0", "TANDEKOR_AT_Set_SLCK()", 40000},
-    {getClck, "AT+CLCK=\"SC\",2", "TANDEKOR_AT_Get_CLCK()", 5000},
-    {getSlck, "AT^SLCK=\"PN\",2", "TANDEKOR_AT_Get_SLCK()", 5000},
-    {getCpin, "AT+CPIN?", "TANDEKOR_AT_Get_CPIN()"},
-    {With(TANDEKOR_AT_Set_CPIN, {"1234", "-"}), "AT+CPIN=\"1234\"", "TANDEKOR_AT_Set_CPIN()"},
-    {With(TANDEKOR_AT_Set_CPIN, {"12345678", "98765"}), "AT+CPIN=\"12345678\",\"9876\"", "TANDEKOR_AT_Set_CPIN()"},
-    {With(TANDEKOR_AT_Set_CPIN, {"", "98"}), "AT+CPIN=\"\",\"98\"", "TANDEKOR_AT_Set_CPIN()"},
+    {With(TANDEKOR_AT_Set_CKPD, {"123", 5, 0xFFFF}), "AT+CKPD=123,5", "Set_CKPD(Keys: 123, Time: 5, Pause: 65535)"},
+    {With(TANDEKOR_AT_Set_CKPD, {"%s#", 0xFFFF, 5}), "AT+CKPD=%s#", "Set_CKPD(Keys: %s#, Time: 65535, Pause: 5)"},
+    {With(TANDEKOR_AT_Set_CKPD, {"*", 0, 65534}), "AT+CKPD=*,0,65534", "Set_CKPD(Keys: *, Time: 0, Pause: 65534)"},
+    {With(TANDEKOR_AT_Set_CLCK, {"SC", 1, password, 7}), "AT+CLCK=\"SC\",1,1234,7", "Set_CLCK", 40000},
+    {With(TANDEKOR_AT_Set_CLCK, {"AOX", 12, "1\12\x63\xFF", -1}), "AT+CLCK=\"AO\",1,4192", "Set_CLCK", 40000},
+    {With(TANDEKOR_AT_Set_CLCK, {"S", 0, noPassword, 7}), "AT+CLCK=\"S\",0", "Set_CLCK", 40000},
+    {With(TANDEKOR_AT_Set_CLCK, {"SC", 2, password, 7}), "AT+CLCK=\"SC\",2", "Set_CLCK", 40000},
+    {With(TANDEKOR_AT_Set_SLCK, {"PN", 1, password, 128}), "AT^SLCK=\"PN\",1,1234,128", "Set_SLCK", 40000},
+    {With(TANDEKOR_AT_Set_SLCK, {"PN", 1, password, 0}), "AT^SLCK=\"PN\",1,1234,0", "Set_SLCK", 40000},
+    {getClck, "AT+CLCK=\"SC\",2", "Get_CLCK", 5000},
+    {getSlck, "AT^SLCK=\"PN\",2", "Get_SLCK", 5000},
+    {getCpin, "AT+CPIN?", "Get_CPIN"},
+    {With(TANDEKOR_AT_Set_CPIN, {"1234", "-"}), "AT+CPIN=\"1234\"", "Set_CPIN"},
+    {With(TANDEKOR_AT_Set_CPIN, {"12345678", "98765"}), "AT+CPIN=\"12345678\",\"9876\"", "Set_CPIN"},
+    {With(TANDEKOR_AT_Set_CPIN, {"", "98"}), "AT+CPIN=\"\",\"98\"", "Set_CPIN"},
     {With(TANDEKOR_AT_Set_CCFC, {0, 3, "12345678901234567890", 145, 10, 20}), "AT+CCFC=0,3,\"123456789012\",145,10,2",
-     "TANDEKOR_AT_Set_CCFC()", 25000},
-    {With(TANDEKOR_AT_Set_CCFC, {2, 3, "+49", 255, -1, -1}), "AT+CCFC=2,3,\"+49\"", "TANDEKOR_AT_Set_CCFC()", 25000},
-    {With(TANDEKOR_AT_Set_CCFC, {2, 3, "+49", 255, 1, 5}), "AT+CCFC=2,3,\"+49\",1,5", "TANDEKOR_AT_Set_CCFC()", 25000},
-    {With(TANDEKOR_AT_Set_CCFC, {12, 4, "-", 145, 7, 5}), "AT+CCFC=1,4", "TANDEKOR_AT_Set_CCFC()", 25000},
-    {With(TANDEKOR_AT_Set_CCFC, {0, 2, "+49", 145, 7, 5}), "AT+CCFC=0,2", "TANDEKOR_AT_Set_CCFC()", 25000},
-    {getCcfc, "AT+CCFC=1,2", "TANDEKOR_AT_Get_CCFC()", 10000},
-    {SetCcwa(255, 2, 7), "AT+CCWA", "TANDEKOR_AT_Set_CCWA()", 20000},
-    {SetCcwa(1, 255, 7), "AT+CCWA=1", "TANDEKOR_AT_Set_CCWA()", 20000},
-    {SetCcwa(1, 2, -1), "AT+CCWA=1,2", "TANDEKOR_AT_Set_CCWA()", 20000},
-    {SetCcwa(10, 20, 100), "AT+CCWA=1,2,100", "TANDEKOR_AT_Set_CCWA()", 20000},
-    {getCsca, "AT+CSCA?", "TANDEKOR_AT_Get_CSCA()"},
-    {With(TANDEKOR_AT_Set_CSCA, {"-1", "-"}), "AT+CSCA=\"-1\"", "TANDEKOR_AT_Set_CSCA()"},
+     "Set_CCFC", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {2, 3, "+49", 255, -1, -1}), "AT+CCFC=2,3,\"+49\"", "Set_CCFC", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {2, 3, "+49", 255, 1, 5}), "AT+CCFC=2,3,\"+49\",1,5", "Set_CCFC", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {12, 4, "-", 145, 7, 5}), "AT+CCFC=1,4", "Set_CCFC", 25000},
+    {With(TANDEKOR_AT_Set_CCFC, {0, 2, "+49", 145, 7, 5}), "AT+CCFC=0,2", "Set_CCFC", 25000},
+    {getCcfc, "AT+CCFC=1,2", "Get_CCFC", 10000},
+    {SetCcwa(255, 2, 7), "AT+CCWA", "Set_CCWA", 20000},
+    {SetCcwa(1, 255, 7), "AT+CCWA=1", "Set_CCWA", 20000},
+    {SetCcwa(1, 2, -1), "AT+CCWA=1,2", "Set_CCWA", 20000},
+    {SetCcwa(10, 20, 100), "AT+CCWA=1,2,100", "Set_CCWA", 20000},
+    {getCsca, "AT+CSCA?", "Get_CSCA"},
+    {With(TANDEKOR_AT_Set_CSCA, {"-1", "-"}), "AT+CSCA=\"-1\"", "Set_CSCA"},
     {With(TANDEKOR_AT_Set_CSCA, {std::string(60, '1'), std::string(60, '2')}),
-     "AT+CSCA=\"" + std::string(60, '1') + "\",\"" + std::string(50, '2') + "\"", "TANDEKOR_AT_Set_CSCA()"},
-    {getCscb, "AT+CSCB?", "TANDEKOR_AT_Get_CSCB()"},
-    {With(TANDEKOR_AT_Set_CSCB, {255, "1", "\1"}), "AT+CSCB", "TANDEKOR_AT_Set_CSCB()"},
-    {With(TANDEKOR_AT_Set_CSCB, {10, "-1", "\1"}), "AT+CSCB=1", "TANDEKOR_AT_Set_CSCB()"},
-    {With(TANDEKOR_AT_Set_CSCB, {0, "0,5,320-478", "-"}), "AT+CSCB=0,\"0,5,320-478\"", "TANDEKOR_AT_Set_CSCB()"},
-    {With(TANDEKOR_AT_Set_CSCB, {1, "", "\1\x0C\xC8"}), "AT+CSCB=1,\"\",\"112\"", "TANDEKOR_AT_Set_CSCB()"},
-    {getCscs, "AT+CSCS?", "TANDEKOR_AT_Get_CSCS()"},
-    {With(TANDEKOR_AT_Set_CSCS, {"-"}), "AT+CSCS", "TANDEKOR_AT_Set_CSCS()"},
-    {With(TANDEKOR_AT_Set_CSCS, {"12345678901234567"}), "AT+CSCS=\"1234567890123456\"", "TANDEKOR_AT_Set_CSCS()"},
-    {Crsm(176, 28421, 0, 10, 255, "\1\2\x0C"), "AT+CRSM=176,28421,0,1,2,121", "TANDEKOR_AT_CRSM()"},
-    {Crsm(7, 0, 1, 2, 3, "-\1"), "AT+CRSM=007,0,1,2,3", "TANDEKOR_AT_CRSM()"},
-    {Crsm(0, 12258, 1, -1, 3, "\1"), "AT+CRSM=000,12258", "TANDEKOR_AT_CRSM()"},
-    {Crsm(255, -1, 1, 2, 3, "\1"), "AT+CRSM=255", "TANDEKOR_AT_CRSM()"},
+     "AT+CSCA=\"" + std::string(60, '1') + "\",\"" + std::string(50, '2') + "\"", "Set_CSCA"},
+    {getCscb, "AT+CSCB?", "Get_CSCB"},
+    {With(TANDEKOR_AT_Set_CSCB, {255, "1", "\1"}), "AT+CSCB", "Set_CSCB"},
+    {With(TANDEKOR_AT_Set_CSCB, {10, "-1", "\1"}), "AT+CSCB=1", "Set_CSCB"},
+    {With(TANDEKOR_AT_Set_CSCB, {0, "0,5,320-478", "-"}), "AT+CSCB=0,\"0,5,320-478\"", "Set_CSCB"},
+    {With(TANDEKOR_AT_Set_CSCB, {1, "", "\1\x0C\xC8"}), "AT+CSCB=1,\"\",\"112\"", "Set_CSCB"},
+    {getCscs, "AT+CSCS?", "Get_CSCS"},
+    {With(TANDEKOR_AT_Set_CSCS, {"-"}), "AT+CSCS", "Set_CSCS"},
+    {With(TANDEKOR_AT_Set_CSCS, {"12345678901234567"}), "AT+CSCS=\"1234567890123456\"", "Set_CSCS"},
+    {Crsm(176, 28421, 0, 10, 255, "\1\2\x0C"), "AT+CRSM=176,28421,0,1,2,121", "CRSM"},
+    {Crsm(7, 0, 1, 2, 3, "-\1"), "AT+CRSM=007,0,1,2,3", "CRSM"},
+    {Crsm(0, 12258, 1, -1, 3, "\1"), "AT+CRSM=000,12258", "CRSM"},
+    {Crsm(255, -1, 1, 2, 3, "\1"), "AT+CRSM=255", "CRSM"},
 };
 
 const Bytes untouched = {};
@@ -165,33 +166,14 @@ TEST_F(AtTextParametersTest, TextsThatOutgrowTheRequestAreNotSent)
 {
     const struct
     {
+        Call (*with)(const std::string&);
         const char* log;
         size_t longest;
-        std::function<Call(const std::string&)> with;
-        char fill = '5';
+        char fill;
     } cases[] = {
-        {"TANDEKOR_AT_Set_CKPD(Keys: 5", 4086,
-         [](auto text) {
-             return With(TANDEKOR_AT_Set_CKPD, {text, 0xFFFF, 0});
-         }},
-        {"TANDEKOR_AT_Set_CPIN()", 4084,
-         [](auto text) {
-             return With(TANDEKOR_AT_Set_CPIN, {text, "-"});
-         }},
-        {"TANDEKOR_AT_Set_CSCA()", 4084,
-         [](auto text) {
-             return With(TANDEKOR_AT_Set_CSCA, {text, "-"});
-         }},
-        {"TANDEKOR_AT_Set_CSCB()", 4082,
-         [](auto text) {
-             return With(TANDEKOR_AT_Set_CSCB, {1, text, "-"});
-         }},
-        {"TANDEKOR_AT_Set_CSCB()", 4079,
-         [](auto text) {
-             return With(TANDEKOR_AT_Set_CSCB, {1, "", text});
-         },
-         '\5'},
-        {"TANDEKOR_AT_CRSM()", 4074, [](auto text) { return Crsm(1, 2, 3, 4, 5, text); }, '\5'},
+        {Keys, "TANDEKOR_AT_Set_CKPD(Keys: 5", 4086, '5'}, {Pin, "TANDEKOR_AT_Set_CPIN()", 4084, '5'},
+        {CentreOf, "TANDEKOR_AT_Set_CSCA()", 4084, '5'},   {Channels, "TANDEKOR_AT_Set_CSCB()", 4082, '5'},
+        {Schemes, "TANDEKOR_AT_Set_CSCB()", 4079, '\5'},   {CrsmWith, "TANDEKOR_AT_CRSM()", 4074, '\5'},
     };
     for (const auto& row : cases)
     {
@@ -206,7 +188,7 @@ TEST_F(AtTextParametersTest, TextsThatOutgrowTheRequestAreNotSent)
             const CallResult call = row.with(std::string(length, row.fill))(handle);
             EXPECT_EQ(call.result, fits ? 1 : 0);
             EXPECT_EQ(call.written.back(), fits);
-            EXPECT_EQ(simulator::Exchanges().size(), fits ? 1U : 0U);
+            EXPECT_EQ(CountExchanges(), fits ? 1U : 0U);
             EXPECT_TRUE(!fits || simulator::Exchanges().back().request.size() == 4096);
             EXPECT_TRUE(Log().size() == 1 && Log()[0].starts_with(row.log));
         }

@@ -13,8 +13,7 @@ class TransferTest : public ObexTest
 protected:
     TransferTest()
     {
-        uint16_t status = 0;
-        EXPECT_EQ(TANDEKOR_AT_2_OBEX(handle, &status), 1);
+        EXPECT_EQ(With(TANDEKOR_AT_2_OBEX)(handle).result, 1);
         simulator::ForgetCalls();
     }
 
@@ -24,13 +23,21 @@ protected:
         return file == simulator::ThePhone().files.end() ? nullptr : &file->second;
     }
 
-    std::string List(const char* folder)
+    // The out-arguments of a call that goes well but for these bits.
+    std::vector<Bytes> Outs(const Call& call, uint16_t bits = 0)
     {
-        Bytes listing(20'000);
-        auto size = static_cast<uint32_t>(listing.size());
-        ExpectBits(TANDEKOR_OBEX_ListDir(handle, folder, listing.data(), &size, &error), 0);
-        return {listing.begin(), listing.begin() + size};
+        const CallResult made = call(handle);
+        EXPECT_EQ(made.result, 1);
+        EXPECT_EQ(made.outs.back(), U16(bits));
+        return made.outs;
     }
+
+    bool Lists(const char* folder, const std::string& line)
+    {
+        const Bytes listing = Outs(With(TANDEKOR_OBEX_ListDir, {folder, Out{20'000}, U32(20'000)}))[0];
+        return std::string(listing.begin(), listing.end()).find(line) != std::string::npos;
+    }
+    uint32_t FreeSpace() { return Values(Outs(With(TANDEKOR_OBEX_FreeSpaceCheck)))[0]; }
 
     // What the phone answers to a packet of its own.
     std::string Answer(const std::string& packet) const
@@ -40,12 +47,6 @@ protected:
         uint16_t length = 4096;
         QLIB_SendRAW(handle, static_cast<uint16_t>(request.size()), request.data(), &length, response.data(), 1000);
         return ToHex({response.begin(), response.begin() + length});
-    }
-
-    void ExpectBits(uint8_t result, uint16_t bits)
-    {
-        EXPECT_EQ(result, 1);
-        EXPECT_EQ(error, bits);
     }
 };
 
@@ -61,12 +62,12 @@ TEST_F(TransferTest, FilesOfAllSizesGoThereAndBack)
             SCOPED_TRACE(size);
             const Bytes content = Noise(size);
             WriteHostFile("f", content);
-            ExpectBits(TANDEKOR_OBEX_SendFile(handle, host, "f", "Pictures\\Holiday\\", &error), 0);
+            Outs(With(TANDEKOR_OBEX_SendFile, {host, "f", "Pictures\\Holiday\\"}));
             ASSERT_NE(OnPhone("Pictures/Holiday/f"), nullptr);
             EXPECT_TRUE(OnPhone("Pictures/Holiday/f")->content == content);
             EXPECT_EQ(OnPhone("Pictures/Holiday/f")->time, "20240309T070502");
             WriteHostFile("f", {});
-            ExpectBits(TANDEKOR_OBEX_GetFile(handle, "\\Pictures\\Holiday\\", "f", host, &error), 0);
+            Outs(With(TANDEKOR_OBEX_GetFile, {"\\Pictures\\Holiday\\", "f", host}));
             EXPECT_TRUE(HostContent("f") == content);
         }
     }
@@ -74,36 +75,33 @@ TEST_F(TransferTest, FilesOfAllSizesGoThereAndBack)
 
 TEST_F(TransferTest, PhoneIsRearranged)
 {
-    uint32_t before = 0;
-    uint32_t after = 0;
-    ExpectBits(TANDEKOR_OBEX_FreeSpaceCheck(handle, &before, &error), 0);
-    ExpectBits(TANDEKOR_OBEX_CreateFolder(handle, "Pictures\\", "N\xE4\"w", &error), 0);
-    EXPECT_NE(List("Pictures\\").find("<folder name=\"N&#228;&#34;w\"/>"), std::string::npos);
-    ExpectBits(TANDEKOR_OBEX_CopyFile(handle, "Pictures\\Holiday\\", "beach.jpg", "Sounds\\", &error), 0);
-    ExpectBits(TANDEKOR_OBEX_MoveFile(handle, "\\Pictures\\Holiday\\", "beach.jpg", "\\Pictures\\N\xE4\"w\\", &error),
-               0);
-    EXPECT_NE(OnPhone("Sounds/beach.jpg"), nullptr);
-    EXPECT_NE(OnPhone("Pictures/N\xE4\"w/beach.jpg"), nullptr);
+    const std::string made = "Pictures\\N\xE4\"w\\";
+    const Call remove = With(TANDEKOR_OBEX_DeleteFile, {"Sounds\\", "beach.jpg"});
+    const uint32_t before = FreeSpace();
+    Outs(With(TANDEKOR_OBEX_CreateFolder, {"Pictures\\", "N\xE4\"w"}));
+    EXPECT_TRUE(Lists("Pictures\\", "<folder name=\"N&#228;&#34;w\"/>"));
+    Outs(With(TANDEKOR_OBEX_CopyFile, {"Pictures\\Holiday\\", "beach.jpg", "Sounds\\"}));
+    Outs(With(TANDEKOR_OBEX_MoveFile, {"\\Pictures\\Holiday\\", "beach.jpg", "\\" + made}));
+    EXPECT_TRUE(OnPhone("Sounds/beach.jpg") != nullptr && OnPhone("Pictures/N\xE4\"w/beach.jpg") != nullptr);
     EXPECT_EQ(OnPhone("Pictures/Holiday/beach.jpg"), nullptr);
-    ExpectBits(TANDEKOR_OBEX_FreeSpaceCheck(handle, &after, &error), 0);
-    EXPECT_EQ(before - after, 12'000U);
-    EXPECT_NE(List("Sounds\\").find("<file name=\"beach.jpg\" size=\"12000\""), std::string::npos);
+    EXPECT_EQ(before - FreeSpace(), 12'000U);
+    EXPECT_TRUE(Lists("Sounds\\", "<file name=\"beach.jpg\" size=\"12000\""));
 
-    ExpectBits(TANDEKOR_OBEX_SetAttr(handle, "Sounds\\", "beach.jpg", 3, 0, &error), 0);
+    Outs(With(TANDEKOR_OBEX_SetAttr, {"Sounds\\", "beach.jpg", 3, 0}));
     EXPECT_EQ(OnPhone("Sounds/beach.jpg")->permissions, "\"RW\"\"\"");
-    ExpectBits(TANDEKOR_OBEX_MoveFile(handle, "Sounds\\", "beach.jpg", "Pictures\\", &error), 4096);
-    ExpectBits(TANDEKOR_OBEX_DeleteFile(handle, "Sounds\\", "beach.jpg", &error), 0);
+    Outs(With(TANDEKOR_OBEX_MoveFile, {"Sounds\\", "beach.jpg", "Pictures\\"}), 4096);
+    Outs(remove);
     EXPECT_NE(OnPhone("Sounds/beach.jpg"), nullptr) << "refused, which is no error bit";
-    ExpectBits(TANDEKOR_OBEX_SetAttr(handle, "Sounds\\", "beach.jpg", 4, 0, &error), 0);
-    ExpectBits(TANDEKOR_OBEX_DeleteFile(handle, "Sounds\\", "beach.jpg", &error), 0);
+    Outs(With(TANDEKOR_OBEX_SetAttr, {"Sounds\\", "beach.jpg", 4, 0}));
+    Outs(remove);
     EXPECT_EQ(OnPhone("Sounds/beach.jpg"), nullptr);
 }
 
 TEST_F(TransferTest, ServerOfThePhoneIsStrict)
 {
     const std::string id = " CB 00 00 00 01";
-    EXPECT_EQ(Answer(connect.request).substr(0, 35), "A0 00 1F 10 00 10 00" + id);
-    EXPECT_EQ(Answer("85 00 0A 02 00" + id), done);
+    EXPECT_EQ(Answer(Turns(connected)[0].request).substr(0, 35), "A0 00 1F 10 00 10 00" + id);
+    EXPECT_EQ(Answer("85 00 0A 02 00" + id), "A0 00 03");
     const std::string malformed[] = {
         "85 00 0B 02 00" + id,                                  // the packet's length
         "85 00 11 02 00" + id + " 01 00 08 00 61 00 00",        // a header's length
