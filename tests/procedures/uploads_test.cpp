@@ -38,11 +38,11 @@ Told UploadTest::told;
 
 TEST_F(UploadTest, CallbackIsToldEachStepAndThePercentageOfTheUploadBefore)
 {
-    Phone().upload = {.totalSize = 100000, .steps = 4, .stepTimeMs = 1, .lastStatus = 2, .succeeds = true};
+    Phone().upload = {.totalSize = 100000, .steps = 4, .stepTimeMs = 1, .lastStatus = 2, .result = 1};
     EXPECT_EQ(TANDEKOR_UploadCEFS_File(handle, 1, 2), 1);
     EXPECT_EQ(Since(), (Told{{1, 0}, {1, 25}, {1, 50}, {1, 75}, {1, 100}, {2, 100}}));
     Phone().upload.totalSize = 2000;
-    Phone().upload.succeeds = false;
+    Phone().upload.result = 0;
     EXPECT_EQ(TANDEKOR_UploadCEFS_File(handle, 1, 2), 0);
     EXPECT_EQ(Since(), (Told{{1, 100}, {2, 100}})) << "no percentages of a small upload";
     Phone().upload.totalSize = 2001;
