@@ -73,8 +73,7 @@ TEST_F(ModelsTest, WhatFollowsFromTheModel)
     {
         const auto count = [&](uint16_t id, const Call& call, const std::string& part)
         {
-            const Observation seen
-                = Observe({}, [&](ResourceContext h) { return BecomePhone(family.chip, id), call(h); });
+            const Observation seen = Observe({}, call, BecomePhone(family.chip, id));
             return std::ranges::count_if(seen.events,
                                          [&](const auto& event) { return event.find(part) != std::string::npos; });
         };
@@ -83,9 +82,9 @@ TEST_F(ModelsTest, WhatFollowsFromTheModel)
         {
             const Call read = With(TANDEKOR_CheckDACValues, {1, 1}),
                        test = With(TANDEKOR_SupplyVoltageTest, {1, 42, 2, 1});
-            adc += count(id, read, "QLIB_SendSync(14") == 3        ? '+'
+            adc += count(id, read, "QLIB_SendSync(14") == 3          ? '+'
                    : count(id, read, "QLIB_FTM_GET_ADC_VAL(3)") == 1 ? '1'
-                                                                   : '-';
+                                                                     : '-';
             const auto pokes = count(id, test, "QLIB_DIAG_MEMORY_POKE_DWORD_F(2");
             supply += pokes == 2 ? 'A' : pokes == 1 ? 'B' : count(id, test, "80 1E 00") == 1 ? 'C' : '-';
             const Call show = With(TANDEKOR_SpecialSwitchDisplay, {1});

@@ -13,17 +13,59 @@ namespace tandekor::test
 
 using simulator::BeforeCall;
 using simulator::Mode;
-using simulator::RefuseCall;
+using simulator::Phone;
 using simulator::ThePhone;
 
-void BecomePhone(uint32_t chip, uint16_t hardwareId)
+Change BecomePhone(uint32_t chip, uint16_t hardwareId)
 {
-    ThePhone().msmHardwareVersion = chip;
-    ThePhone().hardwareId = hardwareId;
-    ThePhone().hardwareVersion = chip << 12;
+    return Set(&Phone::msmHardwareVersion, chip) + Set(&Phone::hardwareId, hardwareId)
+           + Set(&Phone::hardwareVersion, chip << 12);
 }
 
-Call After(const std::function<void()>& change, const Call& call)
+Change operator+(const Change& first, const Change& second)
+{
+    return [=]
+    {
+        first();
+        second();
+    };
+}
+
+Change SetItem(uint16_t number, const char* digits)
+{
+    return [=] { ThePhone().nvItems[number] = Hex(digits); };
+}
+Change SetStatus(uint16_t item)
+{
+    return [=] { ThePhone().nvStatus[item] = 5; };
+}
+Change Refuse(const char* operation, int n)
+{
+    return [=] { simulator::RefuseCall(operation, n); };
+}
+Change NoReply()
+{
+    return [] { simulator::QueueReply({{}, 0, {}}); };
+}
+Change Reply(const char* digits)
+{
+    return [=] { simulator::QueueReply({Hex(digits), 1, {}}); };
+}
+Change At(const char* operation, int n, const Change& change)
+{
+    return [=] { BeforeCall(operation, n, change); };
+}
+
+Change SetRegister(uint32_t address, uint32_t value)
+{
+    return [=]
+    {
+        for (uint32_t i = 0; i < 4; ++i)
+            ThePhone().memory[address + i] = static_cast<uint8_t>(value >> (8 * i));
+    };
+}
+
+Call After(const Change& change, const Call& call)
 {
     return [=](ResourceContext handle)
     {
@@ -36,84 +78,10 @@ Call After(const Call& first, const Call& second)
 {
     return [=](ResourceContext handle)
     {
-        first(handle);
-        return second(handle);
+        const CallResult result = first(handle);
+        return result.result == 0 ? result : second(handle);
     };
 }
-
-std::function<void()> Refuse(const char* operation, int n)
-{
-    return [=] { RefuseCall(operation, n); };
-}
-
-std::function<void()> NoReply()
-{
-    return [] { simulator::QueueReply({{}, 0, {}}); };
-}
-
-std::function<void()> Reply(const char* digits)
-{
-    return [=] { simulator::QueueReply({Hex(digits), 1, {}}); };
-}
-
-void SetRegister(uint32_t address, uint32_t value)
-{
-    for (uint32_t i = 0; i < 4; ++i)
-        ThePhone().memory[address + i] = static_cast<uint8_t>(value >> (8 * i));
-}
-
-namespace
-{
-
-using Prepare = std::function<void(ResourceContext)>;
-using Change = std::function<void()>;
-
-Prepare Phone(uint32_t chip, uint16_t hardwareId)
-{
-    return [=](ResourceContext) { BecomePhone(chip, hardwareId); };
-}
-
-// Reads of these items are refused by the phone.
-Prepare Without(const std::vector<uint16_t>& items)
-{
-    return [=](ResourceContext)
-    {
-        for (const uint16_t item : items)
-            ThePhone().nvStatus[item] = 5;
-    };
-}
-
-void Online(ResourceContext) { ThePhone().mode = Mode::Online; }
-
-void OnlineUntilItIsReset(ResourceContext)
-{
-    ThePhone().mode = Mode::Online;
-    ThePhone().switchesModeDirectly = false;
-}
-
-void FtmUntilItIsReset(ResourceContext) { ThePhone().switchesModeDirectly = false; }
-
-void Qpst(ResourceContext) { TANDEKOR_SetLibraryMode(1); }
-
-// A phone without power, and how long it takes to start.
-Prepare Off(uint32_t startTimeMs)
-{
-    return [=](ResourceContext)
-    {
-        ThePhone().on = false;
-        ThePhone().startTimeMs = startTimeMs;
-        ThePhone().nvItems[453] = {1};
-    };
-}
-
-// A phone that was switched on by the boot box.
-void SwitchedOn(ResourceContext handle)
-{
-    TANDEKOR_BootBox_SwitchMobileOn(handle, 4, 2);
-    ThePhone().nvItems[453] = {1};
-}
-
-}  // namespace
 
 void MarkPhone()
 {
@@ -199,6 +167,9 @@ Call Charge(int powerMode, int transistor, int state, int read)
 
 // --- the runs
 
+const Change online = Set(&Phone::mode, Mode::Online), noDirectSwitch = Set(&Phone::switchesModeDirectly, false);
+const Change qpst = [] { TANDEKOR_SetLibraryMode(1); };
+
 // Those whose way no other shares.
 std::vector<ProcedureRun> ReadableRuns()
 {
@@ -207,33 +178,33 @@ std::vector<ProcedureRun> ReadableRuns()
                                    field, field, field, field, field, field, longText, longText};
     return {
         {"Start_LOG", {With(TANDEKOR_Start_LOG, {"/dev/null"})}},
-        {"ModeChangeResetMobile", {With(TANDEKOR_ModeChangeResetMobile, {1})}, Online},
-        {"ONLINE_TO_FTM", {With(TANDEKOR_ONLINE_TO_FTM)}, OnlineUntilItIsReset},
+        {"ModeChangeResetMobile", {With(TANDEKOR_ModeChangeResetMobile, {1})}, online},
+        {"ONLINE_TO_FTM", {With(TANDEKOR_ONLINE_TO_FTM)}, online + noDirectSwitch},
         {"FTM_TO_ONLINE", {With(TANDEKOR_FTM_TO_ONLINE)}},
-        {"BootBox_SwitchMobileOn", {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1})}, Off(1000)},
-        {"BootBox_SwitchMobileOff", {With(TANDEKOR_BootBox_SwitchMobileOff, {4})}, SwitchedOn},
-        {"Phone_Model", {With(TANDEKOR_Phone_Model)}, Phone(0, 12)},
+        {"BootBox_SwitchMobileOn",
+         {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1})},
+         Set(&Phone::on, false) + Set(&Phone::startTimeMs, 1000) + SetItem(453, "01")},
+        {"BootBox_SwitchMobileOff",
+         {After(With(TANDEKOR_BootBox_SwitchMobileOn, {4, 2}), With(TANDEKOR_BootBox_SwitchMobileOff, {4}))},
+         SetItem(453, "01")},
+        {"Phone_Model", {With(TANDEKOR_Phone_Model)}, BecomePhone(0, 12)},
         {"CheckSWBuild", {With(TANDEKOR_CheckSWBuild, build)}},
         {"AudioTest", {With(TANDEKOR_AudioTest, {15, 'y'})}},
         {"TestSpeaker", {With(TANDEKOR_TestSpeaker, {3, 'V', 0xFFFF, 440})}},
         {"TestMicrophone", {With(TANDEKOR_TestMicrophone, {3, 65, 5, Out{5}, 1000, Ascii("ab"), 2, 0xFFFFFFFF, -300})}},
-        {"DIAG_DISABLE_48KHz", {With(TANDEKOR_DIAG_DISABLE_48KHz)}, [](auto) { SetRegister(0x84001308, 0xA5F0C3F1); }},
+        {"DIAG_DISABLE_48KHz", {With(TANDEKOR_DIAG_DISABLE_48KHz)}, SetRegister(0x84001308, 0xA5F0C3F1)},
         {"TestKeypad", {With(TANDEKOR_TestKeypad)}},
         {"SetCWPowerBluetooth", {With(TANDEKOR_SetCWPowerBluetooth, {'N'})}},
         {"BluetoothTestConnect", {With(TANDEKOR_BluetoothTestConnect, {Out{13}})}},
         {"Bluetooth_HW_ID", {With(TANDEKOR_Bluetooth_HW_ID)}},
-        {"Charging_Test", {Charge(1, 1, 1, 1)}},
         {"NV_WRITE_IMEI", {With(TANDEKOR_NV_WRITE_IMEI, {"123456789012345"})}},
-        {"DIAG_FREEZE_PHONE",
-         {With(TANDEKOR_DIAG_FREEZE_PHONE,
-               {Ascii("IMEIbytes"), Ascii("BTaddr"), Ascii("SerialNumber0123"), Table('K', 260)})}},
         {"FlashTest", {With(TANDEKOR_FlashTest)}},
         {"SpecialMmcTest", {With(TANDEKOR_SpecialMmcTest)}},
         {"SetFactoryTrackingByte", {With(TANDEKOR_SetFactoryTrackingByte, {1, 127, Ascii("Z")})}},
         {"UploadMultiImage",
          {With(TANDEKOR_UploadMultiImage,
                {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23})},
-         Qpst},
+         qpst},
         {"RX_GSM_Adjust", {With(TANDEKOR_RX_GSM_Adjust, {Out{128}, 0xE003, 0xE004, 'S', -5, 'L', Out{2}})}},
         {"Reduced_Signalling_GSM", {Gsm(1, 'C')}},
         {"Reduced_Signalling_WCDMA",
@@ -241,15 +212,14 @@ std::vector<ProcedureRun> ReadableRuns()
                {0xE201, 4000000002, Out{1}, 'R', 'M', 4000000003, 'P', 'Z', 0xE202, 0xE203})}},
         {"Reduced_Signalling_HSDPA", {Hsdpa('B', 3, Ascii("codes"), 4, Ascii("memory"))}},
         {"Reduced_Signalling_EDGE", {Edge(1, 0)}},
-        {"StartCall", {With(TANDEKOR_StartCall, {3, Ascii("4219")})}, Online},
+        {"StartCall", {With(TANDEKOR_StartCall, {3, Ascii("4219")})}, online},
         {"GSM_PA_OutputPower",
          {With(TANDEKOR_GSM_PA_OutputPower, {0xE001, 0xE002, 'S', -7, 'T', 2100000000, 'I', 0xE006})}},
         {"Set_TX_PowerOn", {With(TANDEKOR_Set_TX_PowerOn, {0xE001, 0xE002, 'P', 'S', -7, 'T', 2100000000, 'I'})}},
         {"WCDMA_PA_OutputPower", {With(TANDEKOR_WCDMA_PA_OutputPower, {0xE001, 0xE002, 0xE003, 'C', 0xE004, 0xE005})}},
         {"AFC_Deviation", {With(TANDEKOR_AFC_Deviation, {0xE001, 0xE002, 0xE003, 'C', 0xE004, 0xE005})}},
-        {"Virtual_SIM", {With(TANDEKOR_Virtual_SIM, {"000000"})}, Online},
-        {"Virtual_SIM by resets", {With(TANDEKOR_Virtual_SIM, {"000000"})}, OnlineUntilItIsReset},
-        {"NetworkAndChannelPreselection", {With(TANDEKOR_NetworkAndChannelPreselection, {3, 4, 0xE041})}},
+        {"Virtual_SIM", {With(TANDEKOR_Virtual_SIM, {"000000"})}, online},
+        {"Virtual_SIM by resets", {With(TANDEKOR_Virtual_SIM, {"000000"})}, online + noDirectSwitch},
     };
 }
 
@@ -257,71 +227,72 @@ std::vector<ProcedureRun> ReadableRuns()
 std::vector<ProcedureRun> FurtherRuns()
 {
     const Given table = Table('t', 16), other = Table('u', 16), null = nullptr;
-    const auto item
-        = [](uint16_t number, const char* digits) { return Change([=] { ThePhone().nvItems[number] = Hex(digits); }); };
     return {
         {"FTM_DrawContrastPattern",
          {With(TANDEKOR_FTM_DrawContrastPattern, {Ascii("picture" + std::string(121, '\0')), 1})},
-         Phone(0x405, 10)},
-        {"SupplyVoltageTest", {With(TANDEKOR_SupplyVoltageTest, {1, 42, 2, 1})}, Phone(0x405, 10)},
+         BecomePhone(0x405, 10)},
+        {"SupplyVoltageTest", {With(TANDEKOR_SupplyVoltageTest, {1, 42, 2, 1})}, BecomePhone(0x405, 10)},
         {"FM_RadioTest", {With(TANDEKOR_FM_RadioTest, {7, 9460})}},
         {"RX_WCDMA_Adjust", {RxWcdma(4, Table('v', 16), 5, 6, 2)}},
         {"Write_RX_Adjustment_Values", {Calibration('B', 5, 6)}},
         {"CheckDACValues", {With(TANDEKOR_CheckDACValues, {3, 256})}},
         {"FTM_SetKeyPadBackLightGPIO", {With(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {2, 1})}},
-        {"FTM_TestFlip", {With(TANDEKOR_FTM_TestFlip, {0})}, Phone(0x405, 3)},
+        {"FTM_TestFlip", {With(TANDEKOR_FTM_TestFlip, {0})}, BecomePhone(0x405, 3)},
         {"NV_READ_IMEI", {With(TANDEKOR_NV_READ_IMEI, {Out{16}})}},
         {"FtmBtSetAddr", {With(FtmBtSetAddr, {"0123456789abx"})}},
         {"SpecialSetPmicChargeLimits", {With(SpecialSetPmicChargeLimits, {4375, 300})}},
         {"SimSimulation", {With(SimSimulation)}},
         {"FTM_I2C_GetCameraId", Sweep(TANDEKOR_FTM_I2C_GetCameraId, {{0, 1, 2}})},
+        {"Charging_Test", {Charge(1, 1, 1, 1)}},
+        {"DIAG_FREEZE_PHONE",
+         {With(TANDEKOR_DIAG_FREEZE_PHONE,
+               {Ascii("IMEIbytes"), Ascii("BTaddr"), Ascii("SerialNumber0123"), Table('K', 260)})}},
+        {"NetworkAndChannelPreselection", {With(TANDEKOR_NetworkAndChannelPreselection, {3, 4, 0xE041})}},
         {"DIAG_NV_WRITE_F", {With(DIAG_NV_WRITE_F, {40000, Ascii("abc"), 3})}},
         {"DIAG_NV_READ_F", {With(DIAG_NV_READ_F, {550, Out{9}, 9})}},
         {"NV_READ_GSM_RX_REL_OFFSETS",
          {With(NV_READ_GSM_RX_REL_OFFSETS, {550, Out{9}, 9}),
-          After(item(10, "78 00 7A"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{3}, 3})),
-          After(item(10, "25 73 25 6E BB"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{5}, 5}))}},
+          After(SetItem(10, "78 00 7A"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{3}, 3})),
+          After(SetItem(10, "25 73 25 6E BB"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{5}, 5}))}},
         {"DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", {With(DIAG_NV_WRITE_FLUSH_BATCH_QUEUE)}},
-        {"SetBitState_8_Reg", Sweep(SetBitState_8_Reg, {{16}, {0x86}, {0, 1, 2}}),
-         [](auto) { SetRegister(16, 0x80000083); }},
-        {"SetBitState_32_Reg", Sweep(SetBitState_32_Reg, {{16}, {0x80000086}, {0, 1, 2}}),
-         [](auto) { SetRegister(16, 0x80000083); }},
+        {"SetBitState_8_Reg", Sweep(SetBitState_8_Reg, {{16}, {0x86}, {0, 1, 2}}), SetRegister(16, 0x80000083)},
+        {"SetBitState_32_Reg", Sweep(SetBitState_32_Reg, {{16}, {0x80000086}, {0, 1, 2}}), SetRegister(16, 0x80000083)},
         {"TK_GetBitState_32_Reg", Sweep(TK_GetBitState_32_Reg, {{16}, {0, 1, 30, 31, 32, 33}}),
-         [](auto) { SetRegister(16, 0x80000001); }},
+         SetRegister(16, 0x80000001)},
         {"ModeChangeResetMobile to online", {With(TANDEKOR_ModeChangeResetMobile, {0})}},
-        {"ONLINE_TO_FTM by command", {With(TANDEKOR_ONLINE_TO_FTM)}, Online},
-        {"FTM_TO_ONLINE by reset", {With(TANDEKOR_FTM_TO_ONLINE)}, FtmUntilItIsReset},
-        {"BootBox_SwitchMobileOn online", {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0})}, Online},
+        {"ONLINE_TO_FTM by command", {With(TANDEKOR_ONLINE_TO_FTM)}, online},
+        {"FTM_TO_ONLINE by reset", {With(TANDEKOR_FTM_TO_ONLINE)}, noDirectSwitch},
+        {"BootBox_SwitchMobileOn online", {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0})}, online},
         {"BootBox_SwitchMobileOn with reset",
-         {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0}),
-          After([] { Online(0); }, With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1}))}},
+         {With(TANDEKOR_BootBox_SwitchMobileOn, {4, 0}), After(online, With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1}))}},
         {"Phone_Model by the build", {With(TANDEKOR_Phone_Model)}},
-        {"Phone_Model of DraK2F", {With(TANDEKOR_Phone_Model)}, [](auto) { ThePhone().buildId = "xx-DraK2F-01"; }},
+        {"Phone_Model of DraK2F", {With(TANDEKOR_Phone_Model)}, Set(&Phone::buildId, "xx-DraK2F-01")},
         {"GetPhoneModel", {With(TANDEKOR_GetPhoneModel, {12, 2})}},
         {"MicrophoneBiasVoltages", Sweep(TANDEKOR_MicrophoneBiasVoltages, {{0, 14, 15, 16, 0x10F}})},
         {"SpecialSetKeypadMapping",
          Sweep(TANDEKOR_SpecialSetKeypadMapping, {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 255}})},
-        {"SpecialSwitchDisplay", Sweep(TANDEKOR_SpecialSwitchDisplay, {{0, 1, 255}}), Phone(0x405, 2)},
+        {"SpecialSwitchDisplay", Sweep(TANDEKOR_SpecialSwitchDisplay, {{0, 1, 255}}), BecomePhone(0x405, 2)},
         {"FTM_DrawContrastPattern24Bit",
          {With(TANDEKOR_FTM_DrawContrastPattern24Bit, {Table('p', 128), 1})},
-         Phone(0x405, 10)},
+         BecomePhone(0x405, 10)},
         {"Charging_Test of the other transistors",
          {Charge(0, 0, 0, 1), Charge(2, 1, 0, 1), Charge(1, 2, 1, 1), Charge(1, 1, 1, 2)}},
         {"SpecialSetChargeFetState", Sweep(SpecialSetChargeFetState, {{0, 1, 2, 255}, {0, 1}})},
         {"SpecialGetChargeFetState", Sweep(SpecialGetChargeFetState, {{0, 1, 2, 255}})},
         {"SupplyVoltageTest of other modes",
-         Sweep(TANDEKOR_SupplyVoltageTest, {{0, 1, 2}, {42}, {0, 1, 2, 3}, {0, 1, 77}}), Phone(0x405, 10)},
-        {"SpecialSwitchAccSupplyVoltage", Sweep(TANDEKOR_SpecialSwitchAccSupplyVoltage, {{0, 1, 77}}), Phone(0x40, 8)},
+         Sweep(TANDEKOR_SupplyVoltageTest, {{0, 1, 2}, {42}, {0, 1, 2, 3}, {0, 1, 77}}), BecomePhone(0x405, 10)},
+        {"SpecialSwitchAccSupplyVoltage", Sweep(TANDEKOR_SpecialSwitchAccSupplyVoltage, {{0, 1, 77}}),
+         BecomePhone(0x40, 8)},
         {"SpecialGetFmRadioInfo", Sweep(TANDEKOR_SpecialGetFmRadioInfo, {{0, 1, 2, 3, 255}})},
         {"SetFactoryTrackingByte of other addresses",
          Sweep(TANDEKOR_SetFactoryTrackingByte, {{0}, {127, 128, 0x8001}})},
-        {"UploadCEFS_File2", {With(TANDEKOR_UploadCEFS_File2, {1, -8, 3})}, Qpst},
-        {"UploadCEFS_File", {With(TANDEKOR_UploadCEFS_File, {1, 2})}, Qpst},
+        {"UploadCEFS_File2", {With(TANDEKOR_UploadCEFS_File2, {1, -8, 3})}, qpst},
+        {"UploadCEFS_File", {With(TANDEKOR_UploadCEFS_File, {1, 2})}, qpst},
         {"RX_WCDMA_Adjust without a table", {RxWcdma(6, nullptr, 4, 5, 0)}},
         {"RX_WCDMA_Adjust of unknown bands",
          {RxWcdma(7, table, 5, 6, 0), RxWcdma(4, table, 3, 6, 0), RxWcdma(4, table, 5, 7, 0),
           RxWcdma(4, table, 5, 6, 4)}},
-        {"RX_WCDMA_Adjust with a status", {RxWcdma(4, table, 5, 6, 2)}, Without({0xEA60, 0xEA61})},
+        {"RX_WCDMA_Adjust with a status", {RxWcdma(4, table, 5, 6, 2)}, SetStatus(0xEA60) + SetStatus(0xEA61)},
         {"NV_WRITE_WCDMA_VGA_GAIN",
          Sweep(NV_WRITE_WCDMA_VGA_GAIN, {{0, 3, 4, 5, 6, 7, 0x0104}, {0x1234}, {table, null}})},
         {"NV_READ_WCDMA_LNA_RANGE_FALL",
@@ -335,7 +306,9 @@ std::vector<ProcedureRun> FurtherRuns()
         {"Write_RX_Adjustment_Values without tables", {Calibration(0, 4, 4, false)}},
         {"Write_RX_Adjustment_Values of unknown bands",
          {Calibration(1, 7, 4), Calibration(0, 0, 4), Calibration(1, 4, 0x0104)}},
-        {"Write_RX_Adjustment_Values refused", {Calibration(1, 5, 6), Calibration(0, 5, 6)}, Without({1103, 1115})},
+        {"Write_RX_Adjustment_Values refused",
+         {Calibration(1, 5, 6), Calibration(0, 5, 6)},
+         SetStatus(1103) + SetStatus(1115)},
         {"Reduced_Signalling_GSM of other controls", {Gsm(0, 0), Gsm(2, 2)}},
         {"Reduced_Signalling_HSDPA of nothing", {Hsdpa(0, 1, nullptr, 1, nullptr)}},
         {"Reduced_Signalling_EDGE of other controls", {Edge(0, 0), Edge(1, 0xFFFFFFFF), Edge(2, 0)}},
@@ -343,11 +316,11 @@ std::vector<ProcedureRun> FurtherRuns()
         {"FTM_GSM_BER_StopCall", Sweep(FTM_GSM_BER_StopCall, {{0, 1, 255}})},
         {"FTM_EGPRS_BER_StartCall", Sweep(FTM_EGPRS_BER_StartCall, {{0, 1, 255}, {2}, {3}, {4}})},
         {"CheckDACValues of other counts", Sweep(TANDEKOR_CheckDACValues, {{0, 1, 3}, {0, 2}})},
-        {"CheckDACValues one by one", Sweep(TANDEKOR_CheckDACValues, {{1, 3}, {0, 2}}), Phone(0xC0, 4)},
-        {"Virtual_SIM of another code", Sweep(TANDEKOR_Virtual_SIM, {{"123456", null}}), Online},
+        {"CheckDACValues one by one", Sweep(TANDEKOR_CheckDACValues, {{1, 3}, {0, 2}}), BecomePhone(0xC0, 4)},
+        {"Virtual_SIM of another code", Sweep(TANDEKOR_Virtual_SIM, {{"123456", null}}), online},
         {"SpecialSetRtcActualTime",
          {With(TANDEKOR_SpecialSetRtcActualTime)},
-         [](auto) { simulator::TheClock().utcStart = 1798761599; }},
+         [] { simulator::TheClock().utcStart = 1798761599; }},
         {"NetworkAndChannelPreselection of other modes",
          Sweep(TANDEKOR_NetworkAndChannelPreselection, {{0, 1, 2}, {0, 2, 6}, {7}})},
         {"NV_WRITE_NETWORK_SCAN_MODE", Sweep(NV_WRITE_NETWORK_SCAN_MODE, {{0, 1, 2, 3, 4, 5, 6, 255}})},
@@ -357,7 +330,8 @@ std::vector<ProcedureRun> FurtherRuns()
         {"FTM_SetKeyPadBackLightGPIO of all rows",
          Sweep(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {{0, 1, 2, 3, 4, 5, 6, 7, 8, 0x0101}, {0, 1, 255}})},
         {"FTM_SetKeyPadBackLightGPIO of model 3",
-         Sweep(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {{0, 1, 4, 5, 6, 7, 8, 0x0105}, {0, 1, 255}}), Phone(0x405, 3)},
+         Sweep(TANDEKOR_FTM_SetKeyPadBackLightGPIO, {{0, 1, 4, 5, 6, 7, 8, 0x0105}, {0, 1, 255}}),
+         BecomePhone(0x405, 3)},
         {"FTM_KOLT_CAMERA_SWITCH", Sweep(TANDEKOR_FTM_KOLT_CAMERA_SWITCH, {{0, 1, 2, 255}})},
     };
 }

@@ -3,39 +3,50 @@
 
 #include <cstdint>
 #include <functional>
+#include <type_traits>
 #include <vector>
 
+#include "simulator/control.h"
 #include "tests/support/call.h"
 
 namespace tandekor::test
 {
 
+// A change of the phone or of the host library.
+using Change = std::function<void()>;
+Change operator+(const Change& first, const Change& second);
+template <typename Member>
+Change Set(Member simulator::Phone::*member, std::type_identity_t<Member> value)
+{
+    return [=] { simulator::ThePhone().*member = value; };
+}
+Change SetItem(uint16_t number, const char* digits);
+Change SetStatus(uint16_t item);  // 5: the phone refuses it
+Change SetRegister(uint32_t address, uint32_t value);
+Change Refuse(const char* operation, int n = 1);
+Change NoReply();
+Change Reply(const char* digits);
+Change At(const char* operation, int n, const Change& change);  // just before the n-th call of the operation
+
+// A call before which something changes, or another call has succeeded.
+Call After(const Change& change, const Call& call);
+Call After(const Call& first, const Call& second);
+
 // Calls that belong together, each made on a fresh bench with a phone in FTM mode.
 struct ProcedureRun
 {
-    const char* name;
-    std::vector<Call> calls;
-    std::function<void(ResourceContext)> prepare = nullptr;  // what else the bench needs
-    bool readable = false;                                   // its transcript is recorded as text
+    const char* name = "a case";
+    std::vector<Call> calls = {};
+    Change change = nullptr;  // what else the bench needs
+    bool readable = false;    // its transcript is recorded as text
 };
 
 const std::vector<ProcedureRun>& Runs();
-
-// A call before which the phone or the host library changes, or another call is made.
-Call After(const std::function<void()>& change, const Call& call);
-Call After(const Call& first, const Call& second);
-
-// A host call that will be refused, a request that will not be answered, and one that will be answered so.
-std::function<void()> Refuse(const char* operation, int n = 1);
-std::function<void()> NoReply();
-std::function<void()> Reply(const char* digits);
-
-void SetRegister(uint32_t address, uint32_t value);
 
 // Gives the phone a content by which its parts can be told apart.
 void MarkPhone();
 
 // The phone that answers with this chip's version and this hardware identifier.
-void BecomePhone(uint32_t chip, uint16_t hardwareId);
+Change BecomePhone(uint32_t chip, uint16_t hardwareId);
 
 }  // namespace tandekor::test

@@ -44,7 +44,7 @@ std::string Escaped(const std::string& text)
     return escaped;
 }
 
-// What repeats in short: "4B *260 " for bytes, "p*128" for characters; the longest prefixes of names by their letter.
+// What repeats in short: "4B *259 4B" for bytes, "p*128" for characters; the longest prefixes of names by their letter.
 std::string Shortened(std::string text)
 {
     for (const auto& [name, letter] : {std::pair("TANDEKOR_", "T_"), std::pair("QLIB_", "Q_")})
@@ -67,27 +67,9 @@ std::string Shortened(std::string text)
     return text;
 }
 
-// Bytes as hexadecimal digits, those that repeat in short: "00*128".
-std::string ShownBytes(const Bytes& bytes)
-{
-    std::string shown;
-    for (size_t first = 0, next = 0; first < bytes.size(); first = next)
-    {
-        while (next < bytes.size() && bytes[next] == bytes[first])
-            ++next;
-        const std::string digits = ' ' + ToHex({bytes[first]});
-        if (next - first > 3)
-            shown += digits + '*' + std::to_string(next - first);
-        else
-            for (size_t i = first; i < next; ++i)
-                shown += digits;
-    }
-    return shown;
-}
-
 }  // namespace
 
-Observation Observe(const ProcedureRun& run, const Call& call, const std::function<void()>& change)
+Observation Observe(const ProcedureRun& run, const Call& call, const Change& change)
 {
     TANDEKOR_DisconnectAllServers();
     simulator::Reset();
@@ -95,8 +77,8 @@ Observation Observe(const ProcedureRun& run, const Call& call, const std::functi
     simulator::ThePhone().mode = simulator::Mode::Ftm;
     const ResourceContext handle = TANDEKOR_ConnectServer(7);
     MarkPhone();
-    if (run.prepare)
-        run.prepare(handle);
+    if (run.change)
+        run.change();
     simulator::TheBootBox().events.clear();
     simulator::ForgetCalls();
     simulator::ForgetLog();
@@ -118,13 +100,13 @@ Observation Observe(const ProcedureRun& run, const Call& call, const std::functi
     if (!output.empty())
         seen.events.push_back("stdout: " + output);
     for (size_t i = 0; i < seen.call.outs.size(); ++i)
-        seen.events.push_back("out" + (seen.call.written[i] ? ShownBytes(seen.call.outs[i]) : std::string(" -")));
+        seen.events.push_back("out " + (seen.call.written[i] ? ToHex(seen.call.outs[i]) : "-"));
     seen.events.push_back("= " + std::to_string(seen.call.result));
     seen.calls = simulator::Calls();
     seen.lastLogText = simulator::LogTexts().empty() ? "nothing logged" : simulator::LogTexts().back();
-    const simulator::LogArguments usual{handle, 2, 0};
-    for (const simulator::LogArguments& arguments : simulator::LogTextArguments())
-        seen.logArgumentsAreTheUsual = seen.logArgumentsAreTheUsual && arguments == usual;
+    EXPECT_TRUE(seen.call.guardsIntact) << run.name;
+    const std::vector<simulator::LogArguments> usual(simulator::LogTexts().size(), {handle, 2, 0});
+    EXPECT_TRUE(simulator::LogTextArguments() == usual) << run.name << " writes with another handle or level";
     return seen;
 }
 

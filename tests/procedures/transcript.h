@@ -16,11 +16,10 @@ struct Observation
     std::vector<std::string> events;  // calls, log texts and waits, then what else came of it
     std::vector<std::string> calls;   // host calls alone
     std::string lastLogText;
-    bool logArgumentsAreTheUsual = true;
 };
 
 // Makes a call of a run on a fresh bench; the change comes last before the call.
-Observation Observe(const ProcedureRun& run, const Call& call, const std::function<void()>& change = nullptr);
+Observation Observe(const ProcedureRun& run, const Call& call, const Change& change = nullptr);
 
 // The events in short, in lines of at most 118 columns. A step is [NAME ... text], or [NAME ... text!] where it failed;
 // within it ~ stands for its name, Q_ for QLIB_ and T_ for TANDEKOR_. ? is the question whether the phone answers.

@@ -15,23 +15,23 @@ protected:
     UploadTest()
     {
         TANDEKOR_SetLibraryMode(1);
-        Event(11, 4000);
-        Event(12, 0);
-        Event(0, 0);
+        ToldOf({{11, 4000}, {12, 0}, {0, 0}});
         TANDEKOR_SetCallback(handle, Callback);
-        told.clear();
     }
     ~UploadTest() override { TANDEKOR_SetLibraryMode(0); }
 
-    static void Event(uint32_t code, uint32_t value)
+    static Told ToldOf(const std::vector<std::pair<uint32_t, uint32_t>>& events)
     {
-        const uint32_t record[] = {code, 0xDEADBEEF, value};
-        EXPECT_EQ(UploadProgressCallback(record), 1);
+        for (const auto& [code, value] : events)
+        {
+            const uint32_t record[] = {code, 0xDEADBEEF, value};
+            EXPECT_EQ(UploadProgressCallback(record), 1);
+        }
+        return std::exchange(told, {});
     }
     static void Callback(uint32_t status, uint32_t percent) { told.emplace_back(status, percent); }
 
     static Told told;  // since it was looked at last
-    static Told Since() { return std::exchange(told, {}); }
 };
 
 Told UploadTest::told;
@@ -40,11 +40,11 @@ TEST_F(UploadTest, CallbackIsToldEachStepAndThePercentageOfTheUploadBefore)
 {
     Phone().upload = {.totalSize = 100000, .steps = 4, .stepTimeMs = 1, .lastStatus = 2, .result = 1};
     EXPECT_EQ(TANDEKOR_UploadCEFS_File(handle, 1, 2), 1);
-    EXPECT_EQ(Since(), (Told{{1, 0}, {1, 25}, {1, 50}, {1, 75}, {1, 100}, {2, 100}}));
+    EXPECT_EQ(ToldOf({}), (Told{{1, 0}, {1, 25}, {1, 50}, {1, 75}, {1, 100}, {2, 100}}));
     Phone().upload.totalSize = 2000;
     Phone().upload.result = 0;
     EXPECT_EQ(TANDEKOR_UploadCEFS_File(handle, 1, 2), 0);
-    EXPECT_EQ(Since(), (Told{{1, 100}, {2, 100}})) << "no percentages of a small upload";
+    EXPECT_EQ(ToldOf({}), (Told{{1, 100}, {2, 100}})) << "no percentages of a small upload";
     Phone().upload.totalSize = 2001;
     int sleeps = 0;
     simulator::TheClock().onSleep = [&](uint32_t)
@@ -53,44 +53,18 @@ TEST_F(UploadTest, CallbackIsToldEachStepAndThePercentageOfTheUploadBefore)
             TANDEKOR_SetCallback(unknownHandle, nullptr);
     };
     TANDEKOR_UploadCEFS_File(handle, 1, 2);
-    EXPECT_EQ(Since(), (Told{{1, 100}, {1, 24}})) << "taken away in the middle, by another handle";
+    EXPECT_EQ(ToldOf({}), (Told{{1, 100}, {1, 24}})) << "taken away in the middle, by another handle";
 }
 
 TEST_F(UploadTest, EventsOneByOne)
 {
-    const struct
-    {
-        uint32_t code, value;
-        Told told;
-    } events[] = {
-        {0, 7, {{7, 0}}},
-        {14, 7, {}},  // a status is told once, whichever event carries it
-        {0, 7, {}},
-        {14, 8, {{8, 0}}},
-        {0, 7, {{7, 0}}},
-        {11, 3000, {}},
-        {1, 1, {}},
-        {10, 1, {}},
-        {13, 1, {}},
-        {15, 1, {}},
-        {0x10000, 1, {}},
-        {12, 1500, {{7, 50}}},
-        {12, 1500, {{7, 50}}},
-        {12, 3001, {{7, 100}}},
-        {12, 99999, {{7, 100}}},
-        {12, 42949673, {{7, 0}}},  // times 100 it leaves 4 in 32 bits
-        {11, 2000, {}},
-        {12, 1000, {}},
-        {11, 0, {}},
-        {12, 1, {}},
-        {11, 0xFFFFFFFF, {}},
-        {12, 21474836, {{7, 0}}},
-    };
-    for (const auto& row : events)
-    {
-        Event(row.code, row.value);
-        EXPECT_EQ(Since(), row.told) << "event " << &row - events;
-    }
+    EXPECT_EQ(ToldOf({{0, 7}, {14, 7}, {0, 7}}), (Told{{7, 0}})) << "a status is told once, whichever event carries it";
+    EXPECT_EQ(ToldOf({{14, 8}, {0, 7}}), (Told{{8, 0}, {7, 0}}));
+    EXPECT_EQ(ToldOf({{11, 3000}, {1, 1}, {2, 1}, {10, 1}, {13, 1}, {15, 1}, {0x10000, 1}}), Told{});
+    EXPECT_EQ(ToldOf({{12, 1500}, {12, 1500}, {12, 3001}, {12, 99999}}), (Told{{7, 50}, {7, 50}, {7, 100}, {7, 100}}));
+    EXPECT_EQ(ToldOf({{12, 42949673}}), (Told{{7, 0}})) << "times 100 it leaves 4 in 32 bits";
+    EXPECT_EQ(ToldOf({{11, 2000}, {12, 1000}, {11, 0}, {12, 1}}), Told{});
+    EXPECT_EQ(ToldOf({{11, 0xFFFFFFFF}, {12, 21474836}}), (Told{{7, 0}}));
 }
 
 }  // namespace tandekor::test
