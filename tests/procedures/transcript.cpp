@@ -131,7 +131,7 @@ std::string ShortForm(const std::vector<std::string>& events)
         if (takeEnding("\t\t", "() start"))
         {
             open.push_back(word);
-            word = '[' + word;
+            word.insert(0, 1, '[');
         }
         else if (const bool good = takeEnding("\t", " - Completed successfully\n");
                  good || takeEnding("\t", " - Failure\n"))
@@ -146,7 +146,7 @@ std::string ShortForm(const std::vector<std::string>& events)
         else if (word.starts_with("QLIB_"))
             shortenName();
         else if (word.starts_with('\t') || word.ends_with('\n'))
-            word = '"' + word + '"';
+            word.insert(0, 1, '"').push_back('"');
         words.push_back(Shortened(Escaped(word)));
     }
     std::string text, line;
