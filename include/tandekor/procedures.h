@@ -300,8 +300,8 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_RX_WCDMA_Adjust(
         ResourceContext hResourceContext, uint8_t iLNArange, int16_t iDvgaExpectedRX_AGC, void* piDVGAoffsetValue,
-        uint16_t iWriteItemID, uint8_t* pWriteItemData, int32_t iWriteLength, uint16_t* piWriteStatus,
-        uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1,
+        uint16_t iWriteItemID, const uint8_t* pWriteItemData, int32_t iWriteLength, uint16_t* piWriteStatus,
+        uint16_t eVgaNvBand, uint16_t iOffset, const uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1,
         uint8_t* piFall2, uint8_t* piFall3, uint16_t iReadItemID, uint8_t* pReadItemData, int32_t iReadLength,
         uint16_t* piReadStatus, uint16_t eRiseNvBand, uint8_t* piRise1, uint8_t* piRise2, uint8_t* piRise3,
         uint16_t iLNAindex, int16_t iLnaExpectedRX_AGC, int16_t* piLNAoffsetValue);
@@ -325,13 +325,14 @@ extern "C"
      * [in, or null] piVsFreq[16]  VGA gain by frequency
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Write_RX_Adjustment_Values(
-        ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
-        uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
-        uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
-        uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2,
-        uint8_t* Gsm850Range3, uint8_t* Gsm850Range4, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1,
-        int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3, uint16_t eVgaNvBand,
-        uint16_t iOffset, uint8_t* piVsFreq);
+        ResourceContext hResourceContext, uint8_t bStartBatchMode, const uint8_t* Gsm900Range1,
+        const uint8_t* Gsm900Range2, const uint8_t* Gsm900Range3, const uint8_t* Gsm900Range4,
+        const uint8_t* Gsm1900Range1, const uint8_t* Gsm1900Range2, const uint8_t* Gsm1900Range3,
+        const uint8_t* Gsm1900Range4, const uint8_t* Gsm1800Range1, const uint8_t* Gsm1800Range2,
+        const uint8_t* Gsm1800Range3, const uint8_t* Gsm1800Range4, const uint8_t* Gsm850Range1,
+        const uint8_t* Gsm850Range2, const uint8_t* Gsm850Range3, const uint8_t* Gsm850Range4, uint8_t eNvBand,
+        int16_t iOffset1, const uint8_t* piVsFreq1, int16_t iOffset2, const uint8_t* piVsFreq2, int16_t iOffset3,
+        const uint8_t* piVsFreq3, uint16_t eVgaNvBand, uint16_t iOffset, const uint8_t* piVsFreq);
 
     /* --- Transmitter
      *
@@ -487,10 +488,10 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_HSDPA(
         ResourceContext hResourceContext, uint8_t iReconfigBitmask, uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes,
-        uint8_t* aiCodes, uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
-        void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle, uint8_t iCQI_RepetitionFactor,
-        uint8_t iDeltaCQI, uint8_t iDeltaACK, uint8_t iDeltaNACK, uint8_t iACK_NACK_RepetitionFactor,
-        uint8_t* pHSDPA_BER_State);
+        const uint8_t* aiCodes, uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
+        const void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle,
+        uint8_t iCQI_RepetitionFactor, uint8_t iDeltaCQI, uint8_t iDeltaACK, uint8_t iDeltaNACK,
+        uint8_t iACK_NACK_RepetitionFactor, uint8_t* pHSDPA_BER_State);
 
     /*
      * EDGE: call, downlink and uplink on one pair of slots, loopback, release, state and receive level.
@@ -527,7 +528,7 @@ extern "C"
      * [in] aiIMSI[iNumDigits]   the digits, as the host library has them; shown in the log as a text
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits,
-                                                          uint8_t* aiIMSI);
+                                                          const uint8_t* aiIMSI);
 
     /* --- Network and SIM */
 
@@ -539,7 +540,7 @@ extern "C"
      * [in]  iSPC          service programming code, six digits and a NUL; shown in the log
      * [out] piSPC_Result  as the host library has it; not checked
      */
-    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, const char* iSPC,
                                                             uint8_t* piSPC_Result);
 
     /* Sets the phone's clock to Coordinated Universal Time. The host library's time mode is given as 0. */
@@ -615,8 +616,9 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers,
                                                                uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer,
-                                                               uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
-                                                               uint32_t iReservedWord, int16_t iCodecTxGainAdjust);
+                                                               uint16_t iItemID, const uint8_t* pItemData,
+                                                               int32_t iLength, uint32_t iReservedWord,
+                                                               int16_t iCodecTxGainAdjust);
 
     /* Clears bit 0 and sets the bits 1 to 3 of the register 0x84001308. Not checked, not logged; fails only if the
      * register cannot be read. */
@@ -659,9 +661,9 @@ extern "C"
      * [in] uiDsplNum  number of the display, from 0 on
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext,
-                                                                        char* sFileName, uint8_t uiDsplNum);
+                                                                        const char* sFileName, uint8_t uiDsplNum);
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext,
-                                                                             char* sFileName, uint8_t uiDsplNum);
+                                                                             const char* sFileName, uint8_t uiDsplNum);
 
     /* --- Bluetooth */
 

@@ -52,7 +52,7 @@ uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t 
         requestSize, AddressOf{request.data()}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
 }
 
-uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, const char* sFileName, uint8_t uiDsplNum)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()
@@ -64,7 +64,8 @@ uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char*
                ItemOf<fileNameSize>(sFileName));
 }
 
-uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, const char* sFileName,
+                                              uint8_t uiDsplNum)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()
