@@ -7,19 +7,17 @@ namespace tandekor::test
 namespace
 {
 
-const std::string password("\1\2\3\4");
-const std::string noPassword("-xyz");
-constexpr size_t most = 1366;
+const std::string password("\1\2\3\4"), noPassword("-xyz");
+constexpr size_t most = 1366, mostMessages = 512, rowSize = 1024;  // for any reply
 const uint32_t noNumber = UINT32_MAX;
 
 const Call getClck = With(TANDEKOR_AT_Get_CLCK, {"SCX", Out{most}, Out{most * 4}});
 const Call getSlck = With(TANDEKOR_AT_Get_SLCK, {"PN", Out{most}, Out{most * 4}});
-const Call getCpin = With(TANDEKOR_AT_Get_CPIN, {Out{16}});
 const Call getCcfc
     = With(TANDEKOR_AT_Get_CCFC, {12, Out{600 * 4}, Out{600 * 4}, Out{600 * 12}, Out{600 * 4}, Out{600 * 4}});
 const Call getCsca = With(TANDEKOR_AT_Get_CSCA, {Out{50}, Out{50}});
 const Call getCscb = With(TANDEKOR_AT_Get_CSCB, {Out{1}, Out{4097}, Out{4097}});
-const Call getCscs = With(TANDEKOR_AT_Get_CSCS, {Out{16}});
+const Call getCscs = With(TANDEKOR_AT_Get_CSCS, {Out{16}}), getCpin = With(TANDEKOR_AT_Get_CPIN, {Out{16}});
 
 Call SetCcwa(int n, int mode, int classNumber)
 {
@@ -37,10 +35,6 @@ Call Schemes(const std::string& text) { return With(TANDEKOR_AT_Set_CSCB, {1, ""
 Call CrsmWith(const std::string& text) { return Crsm(1, 2, 3, 4, 5, text); }
 const Call crsmStatus = Crsm(242, -1, 0, 0, 0, "-");
 
-// Arrays for any reply.
-constexpr size_t mostMessages = 512;
-constexpr size_t rowSize = 1024;
-
 template <typename List>
 Call ListWith(List* list, int filter)
 {
@@ -48,8 +42,7 @@ Call ListWith(List* list, int filter)
                        Out{mostMessages * 4}, Out{mostMessages * rowSize}});
 }
 
-const Call cmgl = ListWith(TANDEKOR_AT_CMGL, 4);
-const Call smgl = ListWith(TANDEKOR_AT_SMGL, 4);
+const Call cmgl = ListWith(TANDEKOR_AT_CMGL, 4), smgl = ListWith(TANDEKOR_AT_SMGL, 4);
 const Call cmgr = With(TANDEKOR_AT_Set_CMGR, {7, 10, Out{2}, Out{1}, Out{10}});
 const Call smgr = With(TANDEKOR_AT_Set_SMGR, {7, 200, Out{2}, Out{1}, Out{200}});
 const Call cmgrOfNothing = With(TANDEKOR_AT_Set_CMGR, {7, 0});

@@ -213,18 +213,17 @@ TEST_F(ModelRequestsTest, KeypadLightOfModel3GoesByItsPinsInRows5And7WhateverThe
 TEST_F(ModelRequestsTest, KeypadLightWithoutAReplyOrWithAStatusOrAModel)
 {
     const std::string light = "\tTANDEKOR_FTM_SetKeyPadBackLight(rowNumber = 4, backLightOn = 1)";
-    const auto expect = [&](const std::string& closing, size_t exchanges)
+    const std::tuple<int, simulator::Reply, std::string> rows[]
+        = {{2, {Hex("07 81"), 1, {}}, light + " - error code = 33031"},
+           {2, {{}, 0, {}}, light + noReply},
+           {1, {{}, 0, {}}, noModel}};
+    for (const auto& [place, reply, closing] : rows)
     {
+        simulator::BeforeCall("QLIB_SendSync", place, [queued = reply] { simulator::QueueReply(queued); });
         Run(Light(4, 1), 0, 0);
         EXPECT_EQ(Log().back(), closing);
-        EXPECT_EQ(CountExchanges(), exchanges);
-    };
-    simulator::BeforeCall("QLIB_SendSync", 2, [] { Replies(Hex("07 81")); });
-    expect(light + " - error code = 33031", 2);
-    simulator::BeforeCall("QLIB_SendSync", 2, [] { FailsToReply(); });
-    expect(light + noReply, 2);
-    FailsToReply();
-    expect(noModel, 1);
+        EXPECT_EQ(CountExchanges(), static_cast<size_t>(place));
+    }
 }
 
 TEST_F(ModelRequestsTest, SliderStateFollowsFromWordAndModelAndTheHintSavesTheQuestion)

@@ -22,24 +22,16 @@ namespace
 
 constexpr uint32_t connectionId = 0xCB4A0102;  // of bytes that are headers' identifiers as well
 
-int Good(obex_t*, void*) { return 1; }
-int InputIsThere(obex_t*, void*, int) { return 1; }
-
-int Write(obex_t*, void* answer, uint8_t* bytes, int count)
-{
-    static_cast<Bytes*>(answer)->insert(static_cast<Bytes*>(answer)->end(), bytes, bytes + count);
-    return count;
-}
-
 class OpenObexTest : public ObexTest
 {
 protected:
     OpenObexTest() : obex(OBEX_Init(OBEX_TRANS_CUSTOM, OnEvent, 0))
     {
         obex_ctrans_t transport{};
-        transport.connect = transport.disconnect = transport.listen = Good;
-        transport.write = Write;
-        transport.handleinput = InputIsThere;
+        transport.connect = transport.disconnect = transport.listen = [](obex_t*, void*) { return 1; };
+        transport.handleinput = [](obex_t*, void*, int) { return 1; };
+        transport.write = [](obex_t*, void* all, uint8_t* bytes, int count)
+        { return static_cast<Bytes*>(all)->insert(static_cast<Bytes*>(all)->end(), bytes, bytes + count), count; };
         transport.customdata = &answer;
         OBEX_SetUserData(obex, this);
         OBEX_RegisterCTransport(obex, &transport);
@@ -80,10 +72,9 @@ protected:
         std::string name;
         std::optional<Bytes> body;
         Bytes target;
-        uint32_t connection = 0;
+        uint32_t connection = 0, size = 0;
         uint8_t header = 0;
         obex_headerdata_t value{};
-        uint32_t size = 0;
         while (OBEX_ObjectGetNextHeader(obex, object, &header, &value, &size) > 0)
         {
             if (header == 0x01)  // Name
