@@ -1,8 +1,7 @@
 // Every procedure against the record of what it does: as it is, with each of its host calls refused in turn, and on
 // each phone model. transcripts.txt holds the way of a run as text where no other has the same, and a digest of
-// everything; with TANDEKOR_UPDATE_TRANSCRIPTS set in the environment the test writes it anew, to be read by a person.
+// everything; the test program's option --update-transcripts writes it anew, to be read by a person.
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <set>
@@ -179,7 +178,8 @@ INSTANTIATE_TEST_SUITE_P(Procedures, TranscriptTest, ::testing::ValuesIn(Runs())
 
 TEST(TranscriptsTest, RecordIsOfTheseRunsAndNoOthers)
 {
-    if (std::getenv("TANDEKOR_UPDATE_TRANSCRIPTS") != nullptr)
+    const std::vector<std::string> arguments = testing::internal::GetArgvs();
+    if (std::ranges::find(arguments, "--update-transcripts") != arguments.end())
     {
         std::ofstream file(TRANSCRIPTS);
         for (const ProcedureRun& run : Runs())
