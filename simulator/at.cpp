@@ -107,7 +107,7 @@ AtCommand CommandOf(const std::string& text)
     return {name, AtCommand::Kind::Other, ""};
 }
 
-// Fields that are left out, empty or behind the last one, keep their values; and a text keeps its quotes.
+// Fields that are left out, empty or after the last one, keep their values; and a text keeps its quotes.
 void Keep(std::string& setting, const std::string& value)
 {
     std::vector<std::string> fields = FieldsOf(setting);
@@ -269,7 +269,7 @@ std::map<std::string, std::string> FreshAtSettings()
     };
 }
 
-// Echo, and a result without anything behind its last word. A request that is no whole command gets no answer.
+// Echo, and a result without anything after its last word. A request that is no whole command gets no answer.
 std::optional<Bytes> AnswerAt(const Bytes& request)
 {
     const Phone& phone = ThePhone();

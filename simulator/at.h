@@ -6,7 +6,7 @@
 namespace simulator
 {
 
-// What stands behind the letters AT.
+// What follows the letters AT.
 struct AtCommand
 {
     enum class Kind : uint8_t
@@ -19,7 +19,7 @@ struct AtCommand
 
     std::string name;  // as in "+CLCK"
     Kind kind;
-    std::string value;  // what stands behind the equals sign
+    std::string value;  // what follows the equals sign
 
     bool Sets() const { return kind == Kind::Set; }
     bool Reads() const { return kind == Kind::Read; }

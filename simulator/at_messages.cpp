@@ -1,4 +1,4 @@
-// The message store, by TS 27.005 in PDU form. The phone's own commands ^SMGL and ^SMGR leave the state alone; the
+// The message store, by TS 27.005 in PDU form. The phone's own commands ^SMGL and ^SMGR leave the state unchanged; the
 // standard ones make an unread message a read one.
 #include <cstdlib>
 
@@ -18,7 +18,7 @@ constexpr char allStates[] = "4";
 
 std::string NoMessage() { return Refused(invalidMessageIndex, "+CMS"); }
 
-// The fields behind the place. The length counts octets without the service centre's address, whose length comes first.
+// The fields after the place. The length counts octets without the service centre's address, whose length comes first.
 std::string HeadOf(const SimulatedMessage& message)
 {
     const size_t octets = message.pdu.size() / 2;

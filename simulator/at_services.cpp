@@ -50,7 +50,7 @@ std::string SetClock(const std::string& value)
     return Done();
 }
 
-// State and class where nothing is registered, and the class of a registration that gives none: voice, data and fax.
+// State and class where nothing is registered, and the class of a registration that names none: voice, data and fax.
 constexpr char notForwarded[] = "0,7";
 constexpr char allClasses[] = "7";
 
@@ -94,7 +94,7 @@ std::string AnswerRegistration(const AtCommand& command)
     return Answer(command.name + ": " + Joined(fields));
 }
 
-// Mode 3 sets the format alone. Without a network there is no operator to show.
+// Mode 3 sets only the format. Without a network there is no operator to show.
 std::string AnswerOperator(const AtCommand& command)
 {
     constexpr char setFormat[] = "3";

@@ -1,4 +1,4 @@
-// The played clock and boot box, in place of those of the machine.
+// The simulated clock and boot box, in place of those of the machine.
 #include <algorithm>
 #include <chrono>
 
@@ -25,7 +25,7 @@ BootBox& TheBootBox()
 namespace
 {
 
-// The handle of the last open; each open gives a new one, so that an old one is refused.
+// The handle of the last open; each open returns a new one, so that an old one is refused.
 tandekor::platform::SerialHandle lastHandle = 0;
 
 // Whether the handle is good; if so, the boot box was told.

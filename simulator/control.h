@@ -141,7 +141,8 @@ struct Phone
     std::function<Bytes(const Bytes&)> obexPeer;  // answers the packets in the place of the phone's own server
 };
 
-// A fresh phone of a model, or nothing for a number that no model has. BecomeModel only changes what tells the model.
+// A fresh phone of a model, or nothing for a number that no model has. BecomeModel changes only what identifies the
+// model.
 std::optional<Phone> MakePhone(uint32_t model);
 bool BecomeModel(Phone& phone, uint32_t model);
 
@@ -156,13 +157,13 @@ void SwitchSupply(bool on);
 // --- what the host library answers
 
 // "QLIB V5.0.40,QPHONEMS" at start. Given out as it stands, cut to the 39 characters that callers have room for; what
-// is behind its comma is replaced when the library mode is set.
+// follows its comma is replaced when the library mode is set.
 void SetLibraryVersion(const std::string& version);
-void SetConnectHandle(ResourceContext handle);  // what the next connects give; 0 refuses them
+void SetConnectHandle(ResourceContext handle);  // what the next connects return; 0 refuses them
 
-// A reply that QLIB_SendRAW or QLIB_SendSync gives instead of the phone's own, also when the phone is off, and with its
-// bytes also when the result is 0. Bytes beyond the capacity that the caller offers are not delivered. claimedLength,
-// where set, is reported as the length whatever was delivered.
+// A reply that QLIB_SendRAW or QLIB_SendSync returns instead of the phone's own, also when the phone is off, and with
+// its bytes also when the result is 0. Bytes beyond the capacity that the caller offers are not delivered.
+// claimedLength, where set, is reported as the length whatever was delivered.
 struct Reply
 {
     Bytes bytes;
@@ -179,19 +180,19 @@ void Silence(uint32_t exchanges);
 // Whether the host library has an operation of this name that is recorded and can be refused.
 bool IsOperation(const std::string& name);
 
-// Refusal: the call is recorded, has no effect and gives 0. Calls count from 1, from now on. Calls of the text log
+// Refusal: the call is recorded, has no effect and returns 0. Calls count from 1, from now on. Calls of the text log
 // operations are neither recorded nor refused.
 void RefuseCall(const std::string& operation, int n = 1);       // the n-th call of this operation
 void RefuseCallsFrom(const std::string& operation, int n = 1);  // the n-th and all later ones
 void RefuseAnyCall(int n);                                      // the n-th recorded call of those that have a result
 
-// Runs in front of the n-th call from now of an operation, for a phone that changes in the middle of a procedure.
+// Runs before the n-th call from now of an operation, for a phone that changes in the middle of a procedure.
 void BeforeCall(const std::string& operation, int n, std::function<void()> action);
 
 // --- what was asked
 
 // Every call of a host operation but those of the text log, in order, as "QLIB_DIAG_CONTROL_F(2)": the arguments
-// behind the handle, numbers in decimal, texts in double quotes, bytes in hexadecimal, what an opaque pointer points to
+// after the handle, numbers in decimal, texts in double quotes, bytes in hexadecimal, what an opaque pointer points to
 // as 1 or, for null, 0; out-arguments and capacities left out.
 const std::vector<std::string>& Calls();
 int CountCalls(const std::string& operation);  // all of them, also those that are not kept
@@ -208,7 +209,7 @@ struct Exchange
 const std::vector<Exchange>& Exchanges();
 
 // The texts that were given to the text log, as they were given, muted or not; the flags set last; and all flags that
-// were set, each with the number of texts in front of it.
+// were set, each with the number of texts before it.
 struct LogFlagsChange
 {
     uint32_t flags;
@@ -232,7 +233,7 @@ const std::vector<LogFlagsChange>& LogFlagsChanges();
 void ForgetLog();  // texts and changes of the flags
 
 // Calls, log texts and the library's waits in one list, as they came: "QLIB_DIAG_CONTROL_F(2)", the text,
-// "Sleep(1000)". Waits are known on the played clock only.
+// "Sleep(1000)". Waits are known on the simulated clock only.
 const std::vector<std::string>& Timeline();
 void ForgetTimeline();
 
@@ -241,7 +242,7 @@ void ForgetTimeline();
 // Carries out the lines of a file up to the first that is wrong. Empty for success, else "FILE:LINE: what is wrong".
 std::string RunScript(const std::string& path);
 
-// --- played clock and boot box, in programs that are linked with them
+// --- simulated clock and boot box, in programs that are linked with them
 
 struct Clock
 {

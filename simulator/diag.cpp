@@ -140,7 +140,7 @@ uint8_t QLIB_DIAG_NV_WRITE_SetBatchMode(ResourceContext hResourceContext, uint8_
     return 1;
 }
 
-// Writes what is queued and ends the batch mode. The three values tell of the last item that the phone refused.
+// Writes what is queued and ends the batch mode. The three values describe the last item that the phone refused.
 uint8_t QLIB_DIAG_NV_WRITE_FlushBatchQueue(ResourceContext hResourceContext, uint32_t* piLastErrorNvId,
                                            uint32_t* piLastTotalStatus, uint8_t* piLastItemStatus)
 {
@@ -224,7 +224,7 @@ uint8_t QLIB_DIAG_EXT_BUILD_ID_F(ResourceContext hResourceContext, uint32_t* iMS
     return 1;
 }
 
-// Of the seven fields behind the texts nothing is known here but their order, so each gets its number, in one byte.
+// Of the seven fields after the texts nothing is known here but their order, so each gets its number, in one byte.
 uint8_t QLIB_DIAG_VERNO_F(ResourceContext hResourceContext, char* sCompileDate, char* sCompileTime, char* sReleaseDate,
                           char* sReleaseTime, char* sVersionDir, void* pField6, void* pField7, void* pField8,
                           void* pField9, void* pField10, void* pField11, void* pField12)

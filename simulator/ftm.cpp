@@ -144,7 +144,7 @@ Bytes WriteKcFile(Data data)
     return Concat(Fields(uint8_t{good}, uint16_t{0}), ThePhone().factory.kcFile);
 }
 
-// The reply block begins with the status; positions count from behind the header.
+// The reply block begins with the status; positions count from the end of the header.
 Bytes FmBlock(Data data)
 {
     const Factory& factory = ThePhone().factory;
@@ -321,7 +321,7 @@ Bytes FieldsOf(const Bytes& request)
     return command->fields(Data(request).subspan(headerLength));
 }
 
-// The pin requests: operation code and pin behind the command word; the status is the reply's last byte.
+// The pin requests: operation code and pin after the command word; the status is the reply's last byte.
 Bytes AnswerPin(const Bytes& request)
 {
     constexpr size_t pinHeaderLength = 8;

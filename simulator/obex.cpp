@@ -1,5 +1,5 @@
 // The phone's OBEX file server. It is strict: it takes the packets of the library it knows, header by header in their
-// order, and everything else is a bad request. The data of an object go out in Body headers alone.
+// order, and everything else is a bad request. The data of an object go out in Body headers only.
 #include <algorithm>
 
 #include "simulator/obex_packet.h"
@@ -67,7 +67,7 @@ SimulatedFile* Find(const std::string& path)
 
 std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
 
-// Whether the path, with a slash behind it, is a folder's or the root's.
+// Whether the path, with a slash at its end, is a folder's or the root's.
 bool IsFolder(const std::string& path)
 {
     const SimulatedFile* folder = path.empty() ? nullptr : Find(path.substr(0, path.size() - 1));
@@ -171,7 +171,7 @@ Bytes SetPath(const Packet& packet)
     return Answer(Success);
 }
 
-// The next part of the object: a Body, also for an empty object, and behind the last one an empty End of Body.
+// The next part of the object: a Body, also for an empty object, and after the last one an empty End of Body.
 Bytes NextPart(ObexGet& get)
 {
     Bytes content = Header(ConnectionId, Dword(Session().connectionId));

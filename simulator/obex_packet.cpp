@@ -53,7 +53,7 @@ std::optional<Fields> HeadersOf(Front rest)
     return fields;
 }
 
-// Connect and SetPath have fields of a fixed size in front of their headers.
+// Connect and SetPath have fields of a fixed size before their headers.
 size_t FixedSize(uint8_t operation) { return operation == ConnectFinal ? 4 : operation == SetPathFinal ? 2 : 0; }
 
 }  // namespace

@@ -40,7 +40,7 @@ void Put(Value* argument, std::type_identity_t<Value> value)
         *argument = value;
 }
 
-// Records the call. Gives whether it goes on, and is not refused.
+// Records the call. Returns whether it goes on, and is not refused.
 bool Enter(const char* operation, const std::string& arguments, bool hasResult = true);
 
 bool IsConnected(ResourceContext handle);

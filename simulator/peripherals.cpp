@@ -14,7 +14,7 @@ constexpr int64_t btAddressLength = 6;
 constexpr uint32_t transistorStatusId = 11;
 constexpr uint32_t readableTransistor = 1;
 
-// An operation on the phone that changes or tells something and cannot fail.
+// An operation on the phone that changes or reports something and cannot fail.
 template <typename Action, typename... Arguments>
 uint8_t OnPhone(ResourceContext hResourceContext, const char* operation, Action action, const Arguments&... arguments)
 {
@@ -81,7 +81,7 @@ uint8_t QLIB_FTM_AUDIO_PCM_CAPTURE(ResourceContext hResourceContext, uint16_t iN
         hResourceContext, __func__, [](Phone& phone) { phone.audio.capturing = true; }, iNumBuffers, iDelay_ms);
 }
 
-// A sawtooth, of which every byte tells its place; nothing without a capture.
+// A sawtooth, in which every byte is its own place; nothing without a capture.
 uint8_t QLIB_FTM_AUDIO_GET_PCM_CAPTURE_DATA(ResourceContext hResourceContext, uint32_t iDataOffset, uint16_t iDataSize,
                                             void* pBuffer)
 {
@@ -225,12 +225,13 @@ uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext hResourceContext, uint8_t
                                        uint8_t* iMonth, uint8_t* iDay, uint16_t* iYear, uint8_t* iHour,
                                        uint8_t* iMinute, uint8_t* iSecond)
 {
-    const PhoneClock given
+    PhoneClock given
         = {ValueAt(iYear), ValueAt(iMonth), ValueAt(iDay), ValueAt(iHour), ValueAt(iMinute), ValueAt(iSecond)};
     const auto keepOrTell = [&](Phone& phone)
     {
         if (iReadWrite == 0)
         {
+            given.result = phone.clock.result;
             phone.clock = given;
             return;
         }
@@ -241,8 +242,9 @@ uint8_t QLIB_FTM_PMIC_RTC_SET_GET_TIME(ResourceContext hResourceContext, uint8_t
         Put(iMinute, phone.clock.minute);
         Put(iSecond, phone.clock.second);
     };
-    return OnPhoneInFtm(hResourceContext, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode), given.month, given.day,
-                        given.year, given.hour, given.minute, given.second);
+    const uint8_t reached = OnPhoneInFtm(hResourceContext, __func__, keepOrTell, iReadWrite, ValueAt(iTimeMode),
+                                         given.month, given.day, given.year, given.hour, given.minute, given.second);
+    return reached == 0 ? uint8_t{0} : ThePhone().clock.result;
 }
 
 // --- camera

@@ -70,7 +70,7 @@ struct Keypad
 {
     std::vector<std::pair<uint16_t, uint8_t>> map;  // hardware code and key
     bool detecting = false;
-    std::deque<KeyEvent> queue;  // an empty queue gives key 0, event 0
+    std::deque<KeyEvent> queue;  // an empty queue reports key 0, event 0
 };
 
 struct Bluetooth
@@ -102,6 +102,7 @@ struct PhoneClock
 {
     uint16_t year = 0;
     uint8_t month = 0, day = 0, hour = 0, minute = 0, second = 0;
+    uint8_t result = 1;  // of setting and reading it, where that is carried out
 };
 
 struct Security
@@ -121,7 +122,7 @@ struct UploadScript
     uint32_t steps = 10;
     uint32_t stepTimeMs = 400;
     uint32_t lastStatus = 2;
-    bool succeeds = true;
+    uint8_t result = 1;
 };
 
 struct Pin

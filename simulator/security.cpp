@@ -54,12 +54,12 @@ uint8_t RunUpload(const std::string& operation)
         Report(progressEvent, static_cast<uint32_t>(uint64_t{upload.totalSize} * step / upload.steps));
     }
     Report(lastStatusEvent, upload.lastStatus);
-    return upload.succeeds;
+    return upload.result;
 }
 
 }  // namespace
 
-uint8_t QLIB_DIAG_SPC_F(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result)
+uint8_t QLIB_DIAG_SPC_F(ResourceContext hResourceContext, const char* iSPC, uint8_t* piSPC_Result)
 {
     if (!Reaches(hResourceContext, __func__, iSPC))
         return 0;
@@ -114,7 +114,7 @@ uint8_t QLIB_GSDIDIAG_SECURE_DEVICE_INFO_CMD(ResourceContext hResourceContext, u
     return SecurityCommand(piGsdiValue, piStatus, [](Security& security) { security.secured = true; });
 }
 
-// --- flash: the first five values and the byte tell their place, the last two are maker and device
+// --- flash: the first five values and the byte number their place, the last two are maker and device
 uint8_t QLIB_EFS2_DIAG_DEV_INFO(ResourceContext hResourceContext, uint32_t* pi1, uint32_t* pi2, uint32_t* pi3,
                                 uint32_t* pi4, uint32_t* pi5, uint32_t* pi6, uint32_t* pi7, uint8_t* piByte,
                                 char* sDeviceName100)

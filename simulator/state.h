@@ -1,4 +1,4 @@
-// Everything that Reset puts back, apart from the played clock and boot box, in one place.
+// Everything that Reset puts back, apart from the simulated clock and boot box, in one place.
 #pragma once
 
 #include <deque>
@@ -36,7 +36,7 @@ struct ObexSession
     bool open = false;
     uint32_t connectionId = 0;  // of this session, or of the last one
     size_t mostReplyBytes = 0;  // as the connect announced it
-    std::string folder = {};    // path of the current folder with a slash behind it; empty for the root
+    std::string folder = {};    // path of the current folder with a slash at its end; empty for the root
     std::optional<ObexGet> get = {};
     std::optional<ObexPut> put = {};
 };
@@ -81,7 +81,7 @@ struct CallState
 {
     std::vector<std::string> calls;
     std::map<std::string, int> counts;     // by operation, and under "" all calls that have a result
-    std::map<std::string, int> forgotten;  // how many of them ForgetCalls has left behind
+    std::map<std::string, int> forgotten;  // how many of them ForgetCalls has dropped
     std::vector<Refusal> refusals;
     std::vector<Hook> hooks;
     std::vector<Exchange> exchanges;

@@ -76,7 +76,7 @@ const PlainValue plainValues[] = {
     {"fm-chip", &InPart<&Phone::factory, &Factory::fmChip>},
     {"fm-program", &InPart<&Phone::factory, &Factory::fmProgram>},
     {"security-status", &InPart<&Phone::security, &Security::status>},
-    {"upload-succeeds", &InPart<&Phone::upload, &UploadScript::succeeds>},
+    {"upload-result", &InPart<&Phone::upload, &UploadScript::result>},
     {"upload-step-time", &InPart<&Phone::upload, &UploadScript::stepTimeMs>},
 };
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <initializer_list>
 
+#include "phone/nv_items.h"
 #include "tandekor/procedures.h"
 #include "test.h"
 
@@ -44,10 +45,9 @@ Outcome Speaker(Context& context)
 // The item that has to be written is the start mode, as switching on has written it already.
 Outcome Microphone(Context& context)
 {
-    constexpr uint16_t startModeItem = 453;
     uint8_t startMode = 1;
     uint8_t pcm[512] = {};
-    if (TANDEKOR_TestMicrophone(context.handle, 4, 0, sizeof pcm, pcm, startModeItem, &startMode, 1, 0, 0) == 0)
+    if (TANDEKOR_TestMicrophone(context.handle, 4, 0, sizeof pcm, pcm, nv::startMode.number, &startMode, 1, 0, 0) == 0)
         return Failed("TANDEKOR_TestMicrophone", "nothing was captured");
     int loudest = 0;
     for (size_t i = 0; i < sizeof pcm; i += 2)

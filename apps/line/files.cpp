@@ -1,4 +1,4 @@
-// The phone's file server. Each test takes the port to OBEX and back, and leaves no file behind.
+// The phone's file server. Each test takes the port to OBEX and back, and leaves no file on it.
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -45,7 +45,7 @@ std::string Meaning(uint16_t error)
     return text.empty() ? "refused" : text;
 }
 
-// The calls of a test. The first one that fails gives its outcome.
+// The calls of a test. The first one that fails decides its outcome.
 struct Calls
 {
     const Context& context;

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <vector>
 
+#include "phone/nv_items.h"
 #include "tandekor/procedures.h"
 #include "test.h"
 
@@ -75,7 +76,10 @@ struct FreezeValues
         size_t size;
         std::vector<uint8_t> bytes = {};
     };
-    std::array<Value, 4> values = {{{"imei", 9}, {"bluetooth-address", 6}, {"serial-number", 16}, {"public-key", 260}}};
+    std::array<Value, 4> values = {{{"imei", nv::imei.size},
+                                    {"bluetooth-address", nv::bluetoothAddress.size},
+                                    {"serial-number", nv::serialNumber.size},
+                                    {"public-key", 260}}};
 
     // From a file with a line for each: its name and its bytes as hexadecimal digits. Returns what is wrong with it.
     std::string ReadFrom(const std::string& path)

@@ -12,15 +12,10 @@ namespace tandekor::line
 // Returns an empty text, or what is wrong.
 std::string ReadLimit(const std::string& text, const Quantity& quantity, Limit& limit);
 
-// Gives each measure its unit, limit and verdict, and the outcome its verdict. A limit without its measure fails.
+// Sets unit, limit and verdict of each measure, and the verdict of the outcome. A limit without its measure fails.
 void Judge(const Test& test, const Options& options, Outcome& outcome);
 
 // As in "battery.charge 0 % [50..100] FAIL".
 std::string Shown(const std::string& test, const Measure& measure);
-
-const char* Name(Verdict verdict);
-
-// With bytes that are no printable characters as \xNN; line ends and tabs stay.
-std::string Printable(const std::string& text);
 
 }  // namespace tandekor::line

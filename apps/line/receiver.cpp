@@ -1,4 +1,6 @@
 // The receiver, as an application that adjusts it would ask: it measures, and works the corrections out itself.
+#include "phone/nv_items.h"
+#include "phone/wcdma_bands.h"
 #include "radio_values.h"
 #include "tandekor/procedures.h"
 #include "test.h"
@@ -9,9 +11,14 @@ namespace tandekor::line
 namespace
 {
 
-constexpr uint16_t lnaOffsetItems[] = {524, 865, 866};
-constexpr uint16_t startModeItem = 453;
 constexpr uint8_t lnaRange = 0;
+
+// 0 for a band that has none; the measurement fails there.
+uint16_t LnaOffsetItem(const Context& context, int range)
+{
+    const WcdmaBand* band = FindWcdmaBand(context.options.radio.bandReceiver);
+    return band != nullptr ? band->lnaOffset[range] : uint16_t{0};
+}
 
 int16_t WordAt(const uint8_t* bytes) { return static_cast<int16_t>(bytes[0] | bytes[1] << 8); }
 
@@ -45,12 +52,12 @@ bool Measure(const Context& context, uint16_t item, WcdmaValues& values)
     uint8_t startMode[] = {1};
     uint16_t writeStatus = 0;
     uint16_t readStatus = 0;
-    return TANDEKOR_RX_WCDMA_Adjust(context.handle, lnaRange, expectedAgc, values.dvga, startModeItem, startMode, 1,
-                                    &writeStatus, context.options.radio.bandReceiver, *context.options.vgaGain, nullptr,
-                                    context.options.radio.bandReceiver, values.fall[0], values.fall[1], values.fall[2],
-                                    item, values.item, 2, &readStatus, context.options.radio.bandReceiver,
-                                    values.rise[0], values.rise[1], values.rise[2], lnaIndex, expectedAgc,
-                                    &values.lnaOffset)
+    return TANDEKOR_RX_WCDMA_Adjust(context.handle, lnaRange, expectedAgc, values.dvga, nv::startMode.number, startMode,
+                                    1, &writeStatus, context.options.radio.bandReceiver, *context.options.vgaGain,
+                                    nullptr, context.options.radio.bandReceiver, values.fall[0], values.fall[1],
+                                    values.fall[2], item, values.item, 2, &readStatus,
+                                    context.options.radio.bandReceiver, values.rise[0], values.rise[1], values.rise[2],
+                                    lnaIndex, expectedAgc, &values.lnaOffset)
                != 0
            && writeStatus == 0 && readStatus == 0;
 }
@@ -63,7 +70,7 @@ Outcome NotMeasured()
 Outcome Wcdma(Context& context)
 {
     WcdmaValues values;
-    if (!Measure(context, lnaOffsetItems[0], values))
+    if (!Measure(context, LnaOffsetItem(context, 0), values))
         return NotMeasured();
     return Done("thresholds fall %d %d %d, rise %d %d %d", WordAt(values.fall[0]), WordAt(values.fall[1]),
                 WordAt(values.fall[2]), WordAt(values.rise[0]), WordAt(values.rise[1]), WordAt(values.rise[2]))
@@ -71,14 +78,14 @@ Outcome Wcdma(Context& context)
         .Add("lna-offset", values.lnaOffset);
 }
 
-// The offsets are stored as they stand in the phone; the tables stay alone.
+// The offsets are stored as they stand in the phone; the tables are not written.
 Outcome Store(Context& context)
 {
     int16_t offsets[3] = {};
     for (int i = 0; i < 3; ++i)
     {
         WcdmaValues values;
-        if (!Measure(context, lnaOffsetItems[i], values))
+        if (!Measure(context, LnaOffsetItem(context, i), values))
             return NotMeasured();
         offsets[i] = WordAt(values.item);
     }

@@ -10,7 +10,7 @@
 namespace tandekor::line
 {
 
-// Makes the folder if it is missing and writes in it once. Gives an empty text or what is wrong with it.
+// Makes the folder if it is missing and writes in it once. Returns an empty text or what is wrong with it.
 std::string PrepareRecordFolder(const std::filesystem::path& folder);
 
 // The names that belong to one run.
@@ -29,11 +29,11 @@ struct RecordNames
 RecordNames ReserveRecord(const std::filesystem::path& folder, const std::string& dut,
                           std::chrono::system_clock::time_point time);
 
-// Writes the files of a run at the name that was reserved for it; each appears when it is complete. Gives an empty text
-// or what went wrong.
+// Writes the files of a run at the name that was reserved for it; each appears when it is complete. Returns an empty
+// text or what went wrong.
 std::string WriteRecords(const RunRecord& record, const std::filesystem::path& base);
 
-// Writes a file under another name of the same disk, and renames it when it is complete. Gives an empty text or what
+// Writes a file under another name of the same disk, and renames it when it is complete. Returns an empty text or what
 // went wrong.
 std::string WriteWhole(const std::filesystem::path& path, const std::filesystem::path& unfinished,
                        const std::string& content);

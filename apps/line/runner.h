@@ -12,7 +12,7 @@ namespace tandekor::line
 
 using Selection = std::set<const Test*>;
 
-// Selects the tests that are named, alone or by their group, and the fixtures that they need. No names select
+// Selects the tests that are named, singly or by their group, and the fixtures that they need. No names select
 // everything but what has to be named itself; on a real phone without --all only what leaves the phone as it was.
 // Returns an empty text, or what to tell the user of a name that is not known or of an option that a test misses.
 std::string Select(const Options& options, Selection& selection);

@@ -47,7 +47,7 @@ void ForEachTest(Action action)
     }
 }
 
-// Tests that are missing something are selected by their own names alone.
+// Tests that are missing something are selected only by their own names.
 bool AddNamed(const std::string& anyCase, Selection& selection)
 {
     const std::string name = LowerCase(anyCase);

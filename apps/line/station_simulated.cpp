@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "phone/nv_items.h"
 #include "simulated_station.h"
 #include "simulator/control.h"
 #include "station.h"
@@ -61,7 +62,7 @@ std::string Prepare(const Options& options)
             return problem;
     }
     simulator::ThePhone().on = false;
-    simulator::ThePhone().nvItems[2824] = simulator::Bytes(16, '7');  // serial number
+    simulator::ThePhone().nvItems[nv::serialNumber.number] = simulator::Bytes(nv::serialNumber.size, '7');
     simulator::TheBootBox().ports = {options.bootBox};
     for (const std::string& text : options.refusals)
         simulator::RefuseCallsFrom(Read(text).operation, Read(text).from);

@@ -66,7 +66,7 @@ Summary ReadRecords(const std::filesystem::path& folder);
 
 Spread SpreadOf(const Series& series);
 
-// An interrupted run and one that was not judged count as runs alone; a phone without a name is another one each time.
+// An interrupted run and one that was not judged count only as runs; a phone without a name is another one each time.
 Yield YieldOf(const std::vector<RunInShort>& runs);
 
 // How many runs each test failed in, most first.
@@ -77,8 +77,8 @@ std::string PercentText(size_t part, size_t whole);
 
 std::string PageOf(const Summary& summary);
 
-// Writes summary.html into a folder of records. Gives an empty text or what went wrong; the text for the terminal says
-// what the page says, in short.
+// Writes summary.html into a folder of records. Returns an empty text or what went wrong; the text for the terminal
+// says what the page says, in short.
 std::string WriteSummary(const std::filesystem::path& folder, std::string& text);
 
 }  // namespace tandekor::line

@@ -94,7 +94,7 @@ struct Test
     Outcome (*run)(Context& context);
     Quantity measures[10] = {};  // those without a name are none
     Changes changes = Changes::Nothing;
-    const char* question = nullptr;          // to the person who watches the phone, who alone can judge the test
+    const char* question = nullptr;          // to the person who watches the phone, the only judge of the test
     State needs = State::Ready;              // below this state the test is not run
     State fixtureOf = State::Unconnected;    // runs along with every test that needs this state
     const char* waitsFor = "phone's reply";  // what a long run waits for

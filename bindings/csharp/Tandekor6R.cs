@@ -682,7 +682,7 @@ public static class Tandekor6R
     /// Attaches to the packet domain or detaches from it (+CGATT).
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="iValue">1 attaches, 0 detaches, -1 sends the command alone; of any other value the first digit of its unsigned number is sent</param>
+    /// <param name="iValue">1 attaches, 0 detaches, -1 sends no value; of any other value the first digit of its unsigned number is sent</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_Set_CGATT(uint hResourceContext, int iValue, ref ushort pStatus);
@@ -700,7 +700,7 @@ public static class Tandekor6R
     /// Selects the wireless network (+WS46).
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="iValue">two digits are sent, so that 5 goes out as 05; 255 sends the command alone. From 100 on the two characters are the first digit of iValue / 10 and the last digit of iValue</param>
+    /// <param name="iValue">two digits are sent, so that 5 goes out as 05; 255 sends no value. From 100 on the two characters are the first digit of iValue / 10 and the last digit of iValue</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_Set_WS46(uint hResourceContext, byte iValue, ref ushort pStatus);
@@ -910,7 +910,7 @@ public static class Tandekor6R
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iMode">as above; the first digit of its unsigned number is sent</param>
-    /// <param name="iFormat">as above; -1 sends the mode alone</param>
+    /// <param name="iFormat">as above; -1 sends only the mode</param>
     /// <param name="sOper">name; at most 16 characters are sent, and none of a name that begins with '-'</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
@@ -1068,7 +1068,7 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_AT_Get_CPIN(uint hResourceContext, [In, Out] byte[] sCode, ref ushort pStatus);
 
     /// <summary>
-    /// Gives a code (+CPIN).
+    /// Enters a code (+CPIN).
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="sPin">text of digits</param>
@@ -1093,7 +1093,7 @@ public static class Tandekor6R
 
     /// <summary>
     /// State of call forwarding, up to 10 seconds. Nothing is written unless *pStatus is 0. A line end after any field
-    /// ends the list, so a reply with a line for each class gives the first alone.
+    /// ends the list, so a reply with a line for each class gives only the first.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iReason">as above</param>
@@ -1176,7 +1176,7 @@ public static class Tandekor6R
     /// Selects the character set (+CSCS).
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="sCharset">at most 16 characters are sent; left out, the command is sent alone</param>
+    /// <param name="sCharset">at most 16 characters are sent; left out, the command is sent without it</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_Set_CSCS(uint hResourceContext, [MarshalAs(UnmanagedType.LPStr)] string sCharset, ref ushort pStatus);
@@ -1232,7 +1232,7 @@ public static class Tandekor6R
 
     /// <summary>
     /// Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is
-    /// looked at if it ends in K or k, also after a failed exchange; else nothing is written.
+    /// checked only if it ends in K or k, also after a failed exchange; else nothing is written.
     ///
     /// is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text
     /// </summary>
@@ -1248,7 +1248,7 @@ public static class Tandekor6R
 
     /// <summary>
     /// Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is
-    /// looked at if it ends in K or k, also after a failed exchange; else nothing is written.
+    /// checked only if it ends in K or k, also after a failed exchange; else nothing is written.
     ///
     /// is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text
     /// </summary>
@@ -1523,7 +1523,7 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST(uint hResourceContext, ref ushort piErrorCode, ushort iIrdaLength_ms);
 
     /// <summary>
-    /// Sends a byte by infrared and asks what was received, in two requests. No status is looked at.
+    /// Sends a byte by infrared and asks what was received, in two requests. No status is checked.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iIrdaTestByte">the byte</param>
@@ -1542,7 +1542,7 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_FTM_START_AGPS_CTON_MEAS(uint hResourceContext, ref ushort piStatusWord);
 
     /// <summary>
-    /// Fetches the result of the A-GPS carrier-to-noise measurement; no status is looked at.
+    /// Fetches the result of the A-GPS carrier-to-noise measurement; no status is checked.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="piCtoNValue">carrier-to-noise ratio in the phone's unit</param>
@@ -1738,7 +1738,7 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_FTM_SIM_READ_IMSI(uint hResourceContext, [In, Out] byte[] iIMSI_number);
 
     /// <summary>
-    /// The mode of the SIM; no status is looked at.
+    /// The mode of the SIM; no status is checked.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="SIM_MODE">shown in the log; then the low byte of the reply's last word, 0 for a reply without one</param>
@@ -2060,7 +2060,8 @@ public static class Tandekor6R
 
     /// <summary>
     /// Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which
-    /// takes about 20 seconds and at most about 72.
+    /// takes about 20 seconds and at most about 72. Of a phone that does not answer again a remark is logged, without
+    /// "Failure".
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="bFTMMode">TandekorPhoneMode; written as it is</param>
@@ -2084,11 +2085,12 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_FTM_TO_ONLINE(uint hResourceContext);
 
     /// <summary>
-    /// Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode
-    /// asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+    /// Switches the phone on by the boot box, asks up to 70 times in 28 seconds for its first answer and brings it
+    /// into the mode asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+    /// An answer to the last of the 70 is too late; no line says so. No step has a start line here.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="iBootBoxPort">number of the boot box's serial port. The port is opened by the first call for this process alone and stays open until the connection ends; another number than the open one is refused. On Windows the port is COM&lt;number>. Elsewhere it is the device /dev/com&lt;number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS&lt;number - 1>. Where another process holds the port, its lines may be raised before it is refused</param>
+    /// <param name="iBootBoxPort">number of the boot box's serial port. The first call opens the port for this process only; it stays open until the connection ends, and another number than the open one is refused. On Windows the port is COM&lt;number>. Elsewhere it is the device /dev/com&lt;number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS&lt;number - 1>. Where another process holds the port, its lines may be raised before it is refused</param>
     /// <param name="bFTMMode">TandekorPhoneMode; any other value than its first two leaves the mode unchanged</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_BootBox_SwitchMobileOn(uint hResourceContext, ushort iBootBoxPort, byte bFTMMode);
@@ -2115,7 +2117,8 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_Phone_Model(uint hResourceContext, ref uint piVerNumber, ref uint piMSMModel, ref uint piPhoneModel);
 
     /// <summary>
-    /// The phone model of a hardware variant on a chip family. No phone is asked.
+    /// The phone model of a hardware variant on a chip family. No phone is asked, and nothing is
+    /// logged.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iVerNumber">hardware variant</param>
@@ -2234,7 +2237,7 @@ public static class Tandekor6R
 
     /// <summary>
     /// Stores a receiver calibration in one batch of NV writes. After a failure the writes so far stay in the host
-    /// library's queue. Every table may be null to be left unchanged; its content is the caller's and is not looked at.
+    /// library's queue. Every table may be null to be left unchanged; its content is the caller's and is not checked.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="bStartBatchMode">passed to the host library; the batch is flushed whatever it is</param>
@@ -2449,8 +2452,8 @@ public static class Tandekor6R
     /// over. The log is muted while the phone restarts, and never left muted.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="iSPC">service programming code, six digits; shown in the log</param>
-    /// <param name="piSPC_Result">as the host library has it; not looked at</param>
+    /// <param name="iSPC">service programming code, six digits and a NUL; shown in the log</param>
+    /// <param name="piSPC_Result">as the host library has it; not checked</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_Virtual_SIM(uint hResourceContext, [MarshalAs(UnmanagedType.LPStr)] string iSPC, ref byte piSPC_Result);
 
@@ -2721,7 +2724,7 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_SpecialGetFmRadioInfo(uint hResourceContext, byte eFmData, ref byte pcFmValue);
 
     /// <summary>
-    /// As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 alone.
+    /// As TANDEKOR_FTM_READ_WRITE_FACTORY_DATA, for the addresses 0 to 127 only.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iOperationType">1 writes, any other value reads</param>
@@ -2890,7 +2893,7 @@ public static class Tandekor6R
     public static extern byte PHONE_GetMemory(uint iAddress, [In, Out] byte[] pBytes, uint iLength);
 
     /// <summary>
-    /// `i2c 0x45 0x222F 13`: content of a register behind the I2C bus, by device and register address.
+    /// `i2c 0x45 0x222F 13`: content of a register on the I2C bus, by device and register address.
     /// </summary>
     /// <param name="iDevice"></param>
     /// <param name="iRegister"></param>
@@ -3027,7 +3030,7 @@ public static class Tandekor6R
     public static extern byte PHONE_QueueReply([MarshalAs(UnmanagedType.LPStr)] string sOperation, byte iResult, int iClaimedLength, [In] byte[] pBytes, uint iLength);
 
     /// <summary>
-    /// `obex-response 0x83 0xD3`: the file server answers every packet of this operation with the response code alone; 0
+    /// `obex-response 0x83 0xD3`: the file server answers every packet of this operation with only the response code; 0
     /// ends that.
     /// </summary>
     /// <param name="iOperation"></param>

@@ -18,7 +18,7 @@
  *
  * Let the phone echo commands (ATE1): values are read at fixed places of the reply, counted with the echo. Without
  * echo, only places counted from the start are right, and only for commands whose echo has nine bytes (AT+CMUT?);
- * values that are read from the end are not found. TANDEKOR_AT_CRSM alone wants no echo. An unsolicited line (RING,
+ * values that are read from the end are not found. Only TANDEKOR_AT_CRSM wants no echo. An unsolicited line (RING,
  * +CREG: ...) before the reply shifts every value, and nothing notices it: switch such lines off first. A reply that is
  * too short for a value reads as the digit 0; a function that returns the reply's characters returns 0xBB for one that
  * is not there, unless it says that a value then stays.
@@ -347,7 +347,7 @@ extern "C"
     /*
      * Attaches to the packet domain or detaches from it (+CGATT).
      *
-     * [in] iValue  1 attaches, 0 detaches, -1 sends the command alone; of any other value the first digit of its
+     * [in] iValue  1 attaches, 0 detaches, -1 sends no value; of any other value the first digit of its
      *              unsigned number is sent
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_CGATT(ResourceContext hResourceContext, int32_t iValue,
@@ -364,7 +364,7 @@ extern "C"
     /*
      * Selects the wireless network (+WS46).
      *
-     * [in] iValue  two digits are sent, so that 5 goes out as 05; 255 sends the command alone. From 100 on the two
+     * [in] iValue  two digits are sent, so that 5 goes out as 05; 255 sends no value. From 100 on the two
      *              characters are the first digit of iValue / 10 and the last digit of iValue
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_WS46(ResourceContext hResourceContext, uint8_t iValue,
@@ -544,7 +544,7 @@ extern "C"
      * Selects the operator (+COPS).
      *
      * [in] iMode    as above; the first digit of its unsigned number is sent
-     * [in] iFormat  as above; -1 sends the mode alone
+     * [in] iFormat  as above; -1 sends only the mode
      * [in] sOper    name; at most 16 characters are sent, and none of a name that begins with '-'
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_COPS(ResourceContext hResourceContext, int32_t iMode,
@@ -657,7 +657,7 @@ extern "C"
                                                             uint16_t* pStatus);
 
     /*
-     * Gives a code (+CPIN).
+     * Enters a code (+CPIN).
      *
      * [in] sPin     text of digits
      * [in] sNewPin  new code, of which exactly four characters are sent; may be left out
@@ -682,7 +682,7 @@ extern "C"
 
     /*
      * State of call forwarding, up to 10 seconds. Nothing is written unless *pStatus is 0. A line end after any field
-     * ends the list, so a reply with a line for each class gives the first alone.
+     * ends the list, so a reply with a line for each class gives only the first.
      *
      * [in]  iReason                                 as above
      * [out] aiState[TANDEKOR_AT_MOST_FORWARDINGS]   1 active, 0 not
@@ -761,7 +761,7 @@ extern "C"
     /*
      * Selects the character set (+CSCS).
      *
-     * [in] sCharset  at most 16 characters are sent; left out, the command is sent alone
+     * [in] sCharset  at most 16 characters are sent; left out, the command is sent without it
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_CSCS(ResourceContext hResourceContext, const char* sCharset,
                                                             uint16_t* pStatus);
@@ -815,7 +815,7 @@ extern "C"
 
     /*
      * Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is
-     * looked at if it ends in K or k, also after a failed exchange; else nothing is written.
+     * checked only if it ends in K or k, also after a failed exchange; else nothing is written.
      *
      * [in]  iIndex      place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")
      * [in]  iMaxLength  size of sData

@@ -40,9 +40,7 @@
  * A pointer without [N] points to one value, a const char* to a text with a NUL.
  */
 
-#if defined(_WIN32) && defined(TANDEKOR_BUILDING)
-#define TANDEKOR_API __declspec(dllexport)
-#elif defined(_WIN32) && !defined(TANDEKOR_STATIC)
+#if defined(_WIN32) && !defined(TANDEKOR_STATIC)
 #define TANDEKOR_API __declspec(dllimport)
 #elif defined(__GNUC__)
 #define TANDEKOR_API __attribute__((visibility("default")))
@@ -77,7 +75,7 @@ extern "C"
     {
         TANDEKOR_MODE_ONLINE = 0,
         TANDEKOR_MODE_FTM = 1,
-        TANDEKOR_MODE_UNCHANGED = 255 /* TANDEKOR_BootBox_SwitchMobileOn alone: whatever mode it comes up in */
+        TANDEKOR_MODE_UNCHANGED = 255 /* TANDEKOR_BootBox_SwitchMobileOn only: whatever mode it comes up in */
     };
 
     /*

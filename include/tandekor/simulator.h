@@ -19,9 +19,7 @@
 
 #include <stdint.h>
 
-#if defined(_WIN32) && defined(QMSL_BUILDING)
-#define PHONE_API __declspec(dllexport)
-#elif defined(_WIN32) && !defined(TANDEKOR_STATIC)
+#if defined(_WIN32) && !defined(TANDEKOR_STATIC)
 #define PHONE_API __declspec(dllimport)
 #elif defined(__GNUC__)
 #define PHONE_API __attribute__((visibility("default")))
@@ -67,7 +65,7 @@ extern "C"
     /* `memory 0x80001000 01 02`: bytes of the phone's memory and of the registers in it. */
     PHONE_API uint8_t PHONE_SetMemory(uint32_t iAddress, const uint8_t* pBytes, uint32_t iLength);
     PHONE_API uint8_t PHONE_GetMemory(uint32_t iAddress, uint8_t* pBytes, uint32_t iLength);
-    /* `i2c 0x45 0x222F 13`: content of a register behind the I2C bus, by device and register address. */
+    /* `i2c 0x45 0x222F 13`: content of a register on the I2C bus, by device and register address. */
     PHONE_API uint8_t PHONE_SetI2cRegister(uint8_t iDevice, uint16_t iRegister, const uint8_t* pBytes,
                                            uint32_t iLength);
     /* `adc 1 640`: reading of an ADC channel. */
@@ -106,7 +104,7 @@ extern "C"
      * reports as the length whatever it delivers, - or -1 for the true one. iLength: up to 65535. */
     PHONE_API uint8_t PHONE_QueueReply(const char* sOperation, uint8_t iResult, int32_t iClaimedLength,
                                        const uint8_t* pBytes, uint32_t iLength);
-    /* `obex-response 0x83 0xD3`: the file server answers every packet of this operation with the response code alone; 0
+    /* `obex-response 0x83 0xD3`: the file server answers every packet of this operation with only the response code; 0
      * ends that. */
     PHONE_API uint8_t PHONE_SetObexResponse(uint8_t iOperation, uint8_t iResponse);
 

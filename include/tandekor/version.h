@@ -1,4 +1,4 @@
-/* The version of this library. The build checks that its own number is the same. */
+/* The version of this library. The build takes its own number from here. */
 #ifndef TANDEKOR_VERSION_H
 #define TANDEKOR_VERSION_H
 

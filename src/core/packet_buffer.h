@@ -35,14 +35,14 @@ public:
     // Overwrites two bytes of the request, high byte first, which must have been appended.
     void SetBigEndianWord(uint16_t position, uint16_t value);
 
-    // Sends the request and takes the response's length, whatever the result is. Gives the operation's result; 0
+    // Sends the request and takes the response's length, whatever the result is. Returns the operation's result; 0
     // without a call if an append did not fit, since a request cut short must not reach a phone.
     uint8_t Exchange(ExchangeOperation operation, ResourceContext hResourceContext, uint32_t timeoutMs);
 
     // A length beyond the response area is held to the area's size, so that no reader is led out of it.
     void SetResponseLength(uint16_t length);
 
-    // Pops take the last unread bytes of the response. A pop that finds too few changes nothing and gives false.
+    // Pops take the last unread bytes of the response. A pop that finds too few changes nothing and returns false.
     bool PopByte(uint8_t* value);
     bool PopWord(uint16_t* value);
     bool PopDword(uint32_t* value);
@@ -51,7 +51,7 @@ public:
     uint16_t RequestLength() const { return requestLength; }
     uint16_t ResponseLength() const { return responseLength; }
 
-    // A byte of the response area, behind a short reply the fill. 0 for a position outside the area.
+    // A byte of the response area, after a short reply the fill. 0 for a position outside the area.
     uint8_t ResponseAt(int position) const
     {
         return position >= 0 && position < areaSize ? response[position] : uint8_t{0};

@@ -13,6 +13,10 @@ namespace tandekor
 // Every text is formatted in a buffer of this size, NUL included, and cut to it.
 constexpr size_t textBufferSize = 12292;
 
+// How the lines about results end, where nothing else is usual.
+constexpr char completedEnding[] = " - Completed successfully\n";
+constexpr char failureEnding[] = " - Failure\n";
+
 // A line of the log that is put together in one buffer. It ends at its first NUL, as C texts do: also at one that a %c
 // field of the value 0 puts into it; what is added next then takes the place of that NUL.
 class LogLine

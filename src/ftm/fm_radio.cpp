@@ -55,7 +55,7 @@ uint8_t FmBlock(ResourceContext hResourceContext, const char* startName, const c
                         Trace(hResourceContext, "\n%s() - error code = %d", name, status);
                         return false;
                     }
-                    Trace(hResourceContext, "\n%s() - Completed successfully\n", name);
+                    Trace(hResourceContext, "\n%s()%s", name, completedEnding);
                     return true;
                 });
 }

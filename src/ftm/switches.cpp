@@ -35,7 +35,7 @@ uint8_t TANDEKOR_FTM_SET_LOW_POWER_MODE(ResourceContext hResourceContext, uint8_
                     {
                         if (ftm.Exchange(factory::SetLowPowerMode, {iLowPowerMode}, deepestModeReplyTimeMs) != 0)
                         {
-                            text.WriteWithPlainEnding(hResourceContext, " - Failure\n");
+                            text.WriteWithPlainEnding(hResourceContext, failureEnding);
                             return false;
                         }
                     }

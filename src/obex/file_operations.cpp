@@ -85,7 +85,7 @@ TandekorObexError GetFileToHost(ObexChannel& obex, const char* psFileName, const
 }
 
 // The phone's response code is not checked. A packet holds the bytes that the file really has at its position: a file
-// that became shorter during the transfer gives shorter packets, and nothing else is sent instead.
+// that became shorter during the transfer makes shorter packets, and nothing else is sent instead.
 TandekorObexError PutFileFromHost(ObexChannel& obex, const char* psLocalFolder, const char* psFileName)
 {
     if (*psLocalFolder == '\0' || *psFileName == '\0')

@@ -33,6 +33,18 @@ constexpr std::array<uint8_t, 10> HeaderOf(const Request& request)
     return header;
 }
 
+// A whole request.
+template <typename... Data>
+constexpr std::array<uint8_t, 10 + sizeof...(Data)> BytesOf(const Request& request, Data... data)
+{
+    std::array<uint8_t, 10 + sizeof...(Data)> bytes = {};
+    size_t end = 0;
+    for (const uint8_t byte : HeaderOf(request))
+        bytes[end++] = byte;
+    ((bytes[end++] = static_cast<uint8_t>(data)), ...);
+    return bytes;
+}
+
 // The two modes in which a phone takes requests, each with numbers of its own.
 constexpr uint16_t ftm = 0x8000;
 constexpr uint16_t ltm = 0x8001;

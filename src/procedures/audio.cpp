@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "phone/factory_requests.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
 #include "procedures/phone_procedure.h"
@@ -15,10 +16,8 @@ namespace
 
 constexpr uint32_t rawRequestTimeMs = 2000;
 
-// Device 15 needs a request of its own, of which both declared lengths are that of the whole.
+// Device 15 needs a request of its own.
 constexpr uint16_t deviceWithRequest = 15;
-constexpr uint8_t biasRequest[14]
-    = {0x4B, 0x0B, 0x01, 0x80, 0x70, 0x04, 0x0E, 0x00, 0x0E, 0x00, 0x00, 0x0B, 0x01, 0x00};
 constexpr int biasStatus = 10;
 
 constexpr uint32_t disabledBitsRegister = 0x84001308;
@@ -34,18 +33,18 @@ uint8_t TANDEKOR_MicrophoneBiasVoltages(ResourceContext hResourceContext, uint16
     if (iAudioDevice != deviceWithRequest)
         return 1;
 
-    uint8_t request[sizeof biasRequest];
-    std::copy(std::begin(biasRequest), std::end(biasRequest), request);
-    uint8_t response[sizeof biasRequest] = {};
+    auto request = factory::BytesOf(factory::MicrophoneBias, 0x00, 0x0B, 0x01, 0x00);
+    uint8_t response[request.size()] = {};
     HostWord responseSize(sizeof response);
-    constexpr int requestSize = sizeof request;
+    constexpr int requestSize = request.size();
     if (!phone.Step(
             "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %s, piResponseSize = %d, iTimeout = 2000)",
-            [&] {
-                return QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response,
+            [&]
+            {
+                return QLIB_SendSync(hResourceContext, requestSize, request.data(), responseSize.Out(), response,
                                      rawRequestTimeMs);
             },
-            requestSize, ItemOf<sizeof request>(request), *responseSize.Out()))
+            requestSize, ItemOf<requestSize>(request.data()), *responseSize.Out()))
         return 0;
     if (response[biasStatus] != 0)
     {
@@ -76,9 +75,9 @@ uint8_t TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDe
            && phone.CallStep("QLIB_FTM_AUDIO_TONES_STOP", QLIB_FTM_AUDIO_TONES_STOP, "()");
 }
 
-// The capture is not stopped after a failed fetch. The success line of its start lacks the closing bracket.
+// The capture is not stopped after a failed fetch. The success line of its start has no closing bracket.
 uint8_t TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers, uint32_t iDataOffset,
-                                uint16_t iDataSize, void* pBuffer, uint16_t iItemID, uint8_t* pItemData,
+                                uint16_t iDataSize, void* pBuffer, uint16_t iItemID, const uint8_t* pItemData,
                                 int32_t iLength, uint32_t /*iReservedWord*/, int16_t iCodecTxGainAdjust)
 {
     const PhoneProcedure phone(hResourceContext);
@@ -103,7 +102,7 @@ uint8_t TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumB
                              "(iCodecTxGainAdjust = %d)", iCodecTxGainAdjust);
 }
 
-// Neither checks the connection nor writes to the log; what becomes of the write is not looked at.
+// Neither checks the connection nor writes to the log; the result of the write is ignored.
 uint8_t TANDEKOR_DIAG_DISABLE_48KHz(ResourceContext hResourceContext)
 {
     uint32_t value = 0;

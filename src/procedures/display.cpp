@@ -1,4 +1,5 @@
 // The choice of a display by its number, and a test image on it.
+#include "phone/factory_requests.h"
 #include "phone/phone_models.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
@@ -38,19 +39,20 @@ uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t 
         phone.StepTrace(STEP_FAILURE, "ERROR: Mobile not supported");
         return 0;
     }
-    uint8_t request[] = {0x4B, 0x0B, 0x00, 0x80, 0xC8, 0x00, 0x01, 0x00, 0x0C, 0x00, uiDsplNum};
+    auto request = factory::BytesOf(factory::SelectDisplay, uiDsplNum);
     uint8_t response[4096] = {};
-    constexpr int requestSize = sizeof request;
+    constexpr int requestSize = request.size();
     return phone.Step(
         "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %u, piResponseSize = %i, iTimeout = %i)",
-        [&] {
-            return QLIB_SendSync(hResourceContext, sizeof request, request, responseSize.Out(), response,
+        [&]
+        {
+            return QLIB_SendSync(hResourceContext, requestSize, request.data(), responseSize.Out(), response,
                                  rawRequestTimeMs);
         },
-        requestSize, AddressOf{request}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
+        requestSize, AddressOf{request.data()}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
 }
 
-uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, const char* sFileName, uint8_t uiDsplNum)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()
@@ -62,7 +64,8 @@ uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char*
                ItemOf<fileNameSize>(sFileName));
 }
 
-uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, const char* sFileName,
+                                              uint8_t uiDsplNum)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()

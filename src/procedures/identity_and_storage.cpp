@@ -119,7 +119,7 @@ bool ReadIdentity(const PhoneProcedure& phone, const nv::Item& id, uint8_t* item
 
 // Nothing is written to the phone before all three identity values were found equal, and the last command goes out only
 // after the key was read back and found equal. Nothing of the key goes to the log. The three key commands share their
-// values, so the status that a command leaves alone is that of the one before.
+// values, so the status that a command leaves unchanged is that of the one before.
 uint8_t TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext, const uint8_t* pExpectedImei,
                                    const uint8_t* pExpectedBtAddress, const uint8_t* pExpectedSerial,
                                    const uint8_t* pPublicKey)

@@ -97,7 +97,7 @@ bool AddMapEntry(const PhoneProcedure& phone, uint16_t iHW_ID, uint8_t iKeyPress
 
 }  // namespace
 
-// The host library's map is cleared in front of everything else. A row that fails leaves the rows before it there.
+// The host library's map is cleared before everything else. A row that fails leaves the rows before it there.
 uint8_t TANDEKOR_SpecialSetKeypadMapping(ResourceContext hResourceContext, uint8_t iMappingID)
 {
     const PhoneProcedure phone(hResourceContext);

@@ -45,7 +45,7 @@ bool AskPhoneModel(ResourceContext hResourceContext, uint32_t* piPhoneModel)
     Trace(hResourceContext, "\tTANDEKOR_Phone_Model() start");
     const bool asked = TANDEKOR_Phone_Model(hResourceContext, &verNumber, &msmModel, piPhoneModel) != 0;
     Trace(hResourceContext, "TANDEKOR_Phone_Model(piVerNumber = %i, piMSMModel = %i, piPhoneModel = %i)%s", verNumber,
-          msmModel, *piPhoneModel, asked ? " - Completed successfully\n" : " - Failure");
+          msmModel, *piPhoneModel, asked ? completedEnding : " - Failure");
     return asked;
 }
 
@@ -66,7 +66,7 @@ uint8_t TANDEKOR_FTM_SetKeyPadBackLight(ResourceContext hResourceContext, uint16
                 const bool done = TANDEKOR_FTM_SetKeyPadBackLightGPIO(hResourceContext, rowNumber, backLightOn) != 0;
                 Trace(hResourceContext,
                       "TANDEKOR_FTM_SetKeyPadBackLightGPIO(hResourceContext = %i, rowNumber = %i, backLightOn= %i)%s",
-                      hResourceContext, rowNumber, backLightOn, done ? " - Completed successfully\n" : " - Failure");
+                      hResourceContext, rowNumber, backLightOn, done ? completedEnding : " - Failure");
                 return done;
             }
             if (IsDravok(model))

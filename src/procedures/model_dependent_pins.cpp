@@ -1,4 +1,4 @@
-// Pins behind registers and the camera, which differ from phone model to phone model: keypad light, flip, camera
+// Pins that registers control, and the camera, which differ from phone model to phone model: keypad light, flip, camera
 // choice, camera identification.
 #include "core/operator_output.h"
 #include "phone/phone_models.h"
@@ -10,7 +10,7 @@
 
 using namespace tandekor;
 
-// The registers of an output pin: one enables it, the other gives its level, by the same bit.
+// The registers of an output pin: one enables it, the other holds its level, by the same bit.
 struct PinRegisters
 {
     uint32_t oe;
@@ -62,7 +62,7 @@ constexpr uint32_t flipDirectionRegister = 0x48000004;
 constexpr uint32_t flipOutputRegister = 0x4800000C;
 constexpr uint32_t flipInputRegister = 0x48000064;
 
-// --- camera choice of the KOLT models: what goes off stands in front of what comes on
+// --- camera choice of the KOLT models: what goes off comes before what goes on
 
 struct CameraWrite
 {

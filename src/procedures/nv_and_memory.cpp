@@ -1,4 +1,4 @@
-// NV items and hardware registers of the phone, with the checks that a bare host call lacks.
+// NV items and hardware registers of the phone, with the checks that a host call does not make.
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
 #include "procedures/phone_procedure.h"

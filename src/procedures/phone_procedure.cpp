@@ -15,9 +15,9 @@ std::string_view EndingOf(uint8_t iLevel)
     switch (iLevel)
     {
         case STEP_SUCCESS:
-            return " - Completed successfully\n";
+            return completedEnding;
         case STEP_FAILURE:
-            return " - Failure\n";
+            return failureEnding;
         default:
             return "";
     }

@@ -9,7 +9,7 @@
 namespace tandekor
 {
 
-// NV items. The status that the phone gives counts as well as the call's result. iLength is in bytes.
+// NV items. The status that the phone returns counts as well as the call's result. iLength is in bytes.
 bool DIAG_NV_WRITE_F(ResourceContext hResourceContext, uint16_t iItemID, const uint8_t* pItemData, int32_t iLength);
 bool DIAG_NV_READ_F(ResourceContext hResourceContext, uint16_t iItemID, uint8_t* pItemData, int32_t iLength);
 // In spite of its name the read of any item that shows what it read in the log.
@@ -23,22 +23,24 @@ bool SetBitState_32_Reg(ResourceContext hResourceContext, uint32_t iAddress, uin
 bool TK_GetBitState_32_Reg(ResourceContext hResourceContext, uint32_t Address, uint16_t bitNum, uint32_t* reg,
                            char* bOnOff);
 
-// Receiver NV items of a WCDMA band (eNvBand 4, 5 or 6; any other gives 0 with nothing logged) and of the GSM bands. A
-// table is 16 bytes (32 for GSM 1900 and 1800) or null, which leaves its item alone; a value out is 2 bytes.
+// Receiver NV items of a WCDMA band (eNvBand 4, 5 or 6; any other returns 0 with nothing logged) and of the GSM bands.
+// A table is 16 bytes (32 for GSM 1900 and 1800) or null, which leaves its item unchanged; a value out is 2 bytes.
 bool NV_WRITE_WCDMA_VGA_GAIN(ResourceContext hResourceContext, uint16_t eNvBand, uint16_t iOffset,
                              const uint8_t* piVsFreq);
 bool NV_READ_WCDMA_LNA_RANGE_FALL(ResourceContext hResourceContext, uint16_t eNvBand, uint8_t* piFall1,
                                   uint8_t* piFall2, uint8_t* piFall3);
 bool NV_READ_WCDMA_LNA_RANGE_RISE(ResourceContext hResourceContext, uint16_t eNvBand, uint8_t* piRise1,
                                   uint8_t* piRise2, uint8_t* piRise3);
-bool NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
-                                uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1,
-                                uint8_t* Gsm1900Range2, uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4,
-                                uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2, uint8_t* Gsm1800Range3,
-                                uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2,
-                                uint8_t* Gsm850Range3, uint8_t* Gsm850Range4);
-bool NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1,
-                               int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3);
+bool NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, const uint8_t* Gsm900Range1,
+                                const uint8_t* Gsm900Range2, const uint8_t* Gsm900Range3, const uint8_t* Gsm900Range4,
+                                const uint8_t* Gsm1900Range1, const uint8_t* Gsm1900Range2,
+                                const uint8_t* Gsm1900Range3, const uint8_t* Gsm1900Range4,
+                                const uint8_t* Gsm1800Range1, const uint8_t* Gsm1800Range2,
+                                const uint8_t* Gsm1800Range3, const uint8_t* Gsm1800Range4, const uint8_t* Gsm850Range1,
+                                const uint8_t* Gsm850Range2, const uint8_t* Gsm850Range3, const uint8_t* Gsm850Range4);
+bool NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8_t eNvBand, int16_t iOffset1,
+                               const uint8_t* piVsFreq1, int16_t iOffset2, const uint8_t* piVsFreq2, int16_t iOffset3,
+                               const uint8_t* piVsFreq3);
 
 // Test calls. bInitSession 1 opens the session first; a bCloseControl that is not 0 closes it.
 bool FTM_GSM_BER_StartCall(ResourceContext hResourceContext, uint8_t bInitSession, uint16_t iChannel, uint8_t iBand,
@@ -53,11 +55,11 @@ bool SimSimulation(ResourceContext hResourceContext);
 bool NV_WRITE_NETWORK_SCAN_MODE(ResourceContext hResourceContext, uint8_t eNetwMode);
 bool NV_WRITE_LAST_GOOD_CHANNEL(ResourceContext hResourceContext, uint8_t eNetwMode, uint16_t uiChannel);
 
-// Gives the Bluetooth module an address of at least 12 hexadecimal digits, which become upper case in place. A
+// Sets the Bluetooth module's address, of at least 12 hexadecimal digits, which become upper case in place. A
 // character that is no such digit counts as 0.
 bool FtmBtSetAddr(ResourceContext hResourceContext, char* szAddr);
 
-// The charger: a transistor (0 or 1), the limits, and the state of transistor 1. Another transistor gives 0 with
+// The charger: a transistor (0 or 1), the limits, and the state of transistor 1. Another transistor returns 0 with
 // nothing logged.
 bool SpecialSetChargeFetState(ResourceContext hResourceContext, uint8_t eChgTransistor, uint8_t bState);
 bool SpecialSetPmicChargeLimits(ResourceContext hResourceContext, uint32_t iVoltage, uint32_t iCurrent);

@@ -11,7 +11,7 @@ using namespace tandekor;
 
 // --- FM radio
 
-// Everything that is reported stands in one byte of what the radio chip gives.
+// Everything that is reported stands in one byte of the radio chip's data.
 uint8_t TANDEKOR_SpecialGetFmRadioInfo(ResourceContext hResourceContext, uint8_t eFmData, uint8_t* pcFmValue)
 {
     const PhoneProcedure phone(hResourceContext);

@@ -6,7 +6,7 @@
 
 using namespace tandekor;
 
-// The metrics are read in front of the handover and the call.
+// The metrics are read before the handover and the call.
 uint8_t TANDEKOR_Reduced_Signalling_GSM(ResourceContext hResourceContext, uint8_t* piDED_RPtRxLev_Full,
                                         uint8_t* piDED_RPtRxQual_Full, uint16_t iChannel, uint8_t iBand, uint8_t iTSC,
                                         uint8_t iSlot, uint8_t iMode, uint8_t iPowerLevel, uint8_t iLoopbackType,
@@ -55,7 +55,7 @@ bool tandekor::FTM_GSM_BER_StopCall(ResourceContext hResourceContext, uint8_t bC
                || phone.CallStep("QLIB_FTM_GSM_BER_StopSession", QLIB_FTM_GSM_BER_StopSession, "()"));
 }
 
-// The session is stopped in front of the status and of the channel's set-up.
+// The session is stopped before the status and of the channel's set-up.
 uint8_t TANDEKOR_Reduced_Signalling_WCDMA(ResourceContext hResourceContext, uint16_t iChannel, uint32_t iTimeOut_ms,
                                           uint8_t* pWCDMA_BER_State, uint8_t iRMC_Type, uint8_t iUL_MaxTxPwr,
                                           uint32_t iUL_DPCH_ScrCode, uint8_t iUL_PCA, uint8_t iUL_TPC_StepSize,

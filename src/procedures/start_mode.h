@@ -13,7 +13,7 @@ constexpr uint32_t goToFtm = 3;
 constexpr uint32_t goOnline = 4;
 constexpr uint32_t powerDown = 6;
 
-// States that QLIB_DIAG_STATUS_F tells.
+// States that QLIB_DIAG_STATUS_F reports.
 constexpr uint8_t stateOffline = 0;
 constexpr uint8_t stateOnline = 1;
 

@@ -1,4 +1,4 @@
-// What the result text of a step may show. A value is taken when the text is written, behind the call of the step, so
+// What the result text of a step may show. A value is taken when the text is written, after the call of the step, so
 // that an out-value is shown as the call left it.
 #pragma once
 

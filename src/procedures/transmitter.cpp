@@ -126,7 +126,7 @@ bool AverageSingle(const PhoneProcedure& phone, uint16_t adcType, uint16_t count
 
 }  // namespace
 
-// A model whose ADC is not known fails behind the question for it, with nothing written.
+// A model whose ADC is not known fails after the question for it, with nothing written.
 uint8_t TANDEKOR_CheckDACValues(ResourceContext hResourceContext, uint16_t iAverageCount, double* pdFirstValue,
                                 uint16_t iSecondAverageCount, double* pdThirdValue, double* pdSecondValue)
 {

@@ -8,7 +8,7 @@
 namespace tandekor
 {
 
-// What the host library calls, with a record of words: word 0 is the event's code, word 2 its value. Gives 1.
+// What the host library calls, with a record of words: word 0 is the event's code, word 2 its value. Returns 1.
 uint8_t UploadProgressCallback(const uint32_t* record);
 
 }  // namespace tandekor

@@ -13,11 +13,11 @@ namespace tandekor::test
 namespace
 {
 
-// Functions that send over the channel of AT commands.
+// Functions that send over the channel of AT commands, and those that send factory requests.
 std::vector<Call> RawCalls()
 {
     std::vector<Call> calls = {With(TANDEKOR_OBEX_2_AT),
-                               With(TANDEKOR_OBEX_ListDir, {"a\\", Out{64}, Bytes{64, 0, 0, 0}}),
+                               With(TANDEKOR_OBEX_ListDir, {"a\\", Out{64}, U32(64)}),
                                With(TANDEKOR_OBEX_GetFile, {"", "f", ""}),
                                With(TANDEKOR_OBEX_SendFile, {"", "f", ""}),
                                With(TANDEKOR_OBEX_DeleteFile, {"", "f"}),
@@ -33,12 +33,10 @@ std::vector<Call> RawCalls()
     }
     return calls;
 }
-
-std::vector<Call> AllCalls()
+std::vector<Call> AllCalls(std::vector<Call> calls = FtmCalls())
 {
-    std::vector<Call> calls = RawCalls();
-    for (const Call& call : FtmCalls())
-        calls.push_back(call);
+    const std::vector<Call> raw = RawCalls();
+    calls.insert(calls.end(), raw.begin(), raw.end());
     return calls;
 }
 

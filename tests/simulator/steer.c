@@ -10,11 +10,8 @@ static int failures = 0;
 
 static void Expect(int holds, const char* what)
 {
-    if (!holds)
-    {
+    if (!holds && ++failures > 0)
         fprintf(stderr, "not so: %s (%s)\n", what, PHONE_LastError());
-        failures++;
-    }
 }
 
 static const char* LastLogText(void)
@@ -27,12 +24,9 @@ static const char* LastLogText(void)
 /* Pages that the process has in memory. */
 static long Size(void)
 {
-    long all = 0;
-    long inMemory = 0;
+    long all = 0, inMemory = 0;
     FILE* file = fopen("/proc/self/statm", "r");
-    Expect(file != NULL && fscanf(file, "%ld %ld", &all, &inMemory) == 2, "the size of the process is known");
-    if (file != NULL)
-        fclose(file);
+    Expect(file != NULL && fscanf(file, "%ld %ld", &all, &inMemory) == 2 && fclose(file) == 0, "the size is known");
     return inMemory;
 }
 
@@ -47,13 +41,9 @@ static void RunCommands(ResourceContext handle, int count)
 int main(int count, char** arguments)
 {
     const uint8_t stuck[] = {0x7F};
-    uint8_t written[] = {0x12};
-    uint8_t charge = 0xFF;
-    uint8_t charging = 0;
-    uint16_t status = 0xFFFF;
-    uint16_t obexError = 0;
-    char path[512];
-    char call[128];
+    uint8_t written[] = {0x12}, charge = 0xFF, charging = 0;
+    uint16_t status = 0xFFFF, obexError = 0;
+    char path[512], call[128];
     long size = 0;
 
     const char* const folder = count > 1 ? arguments[1] : "";

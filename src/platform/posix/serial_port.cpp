@@ -29,7 +29,7 @@ public:
         struct stat status = {};
         return ::lstat(name, &status) == 0;
     }
-    // Without O_NONBLOCK the open would wait for a carrier that a boot box never gives.
+    // Without O_NONBLOCK the open would wait for a carrier that a boot box never raises.
     int Open() const { return HeldByThisProcess() ? -1 : ::open(name, O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC); }
 
 private:
@@ -81,7 +81,7 @@ bool ConfigureSerialPort(SerialHandle port)
     ::cfmakeraw(&control);
     control.c_iflag &= ~static_cast<tcflag_t>(IXON | IXOFF | IXANY);
     // One stop bit: one and a half exist here only for five data bits, and no byte is ever sent.
-    // Without HUPCL the close leaves the lines alone, and without CRTSCTS the driver does not move RTS by itself.
+    // Without HUPCL the close leaves the lines as they are, and without CRTSCTS the driver does not move RTS by itself.
     control.c_cflag &= ~static_cast<tcflag_t>(HUPCL | CRTSCTS | CSTOPB | PARENB);
     control.c_cflag |= CLOCAL | CREAD;
     ::cfsetspeed(&control, B115200);

@@ -1,0 +1,23 @@
+# What a cross build takes from this machine's packages: libraries that are headers alone, each by a link of its own, as
+# the rest of /usr/include belongs to another system, and the sources of GoogleTest.
+set(host_headers ${CMAKE_BINARY_DIR}/host_headers)
+function(add_header_library target folder)
+    if(NOT EXISTS /usr/include/${folder})
+        message(FATAL_ERROR "/usr/include/${folder} is missing; scripts/install-packages installs it")
+    endif()
+    file(MAKE_DIRECTORY ${host_headers})
+    file(CREATE_LINK /usr/include/${folder} ${host_headers}/${folder} SYMBOLIC)
+    add_library(${target} INTERFACE IMPORTED GLOBAL)
+    target_include_directories(${target} INTERFACE ${host_headers})
+endfunction()
+
+if(TANDEKOR_APPLICATIONS)
+    add_header_library(CLI11::CLI11 CLI)
+    add_header_library(nlohmann_json::nlohmann_json nlohmann)
+endif()
+if(TANDEKOR_TESTS)
+    set(BUILD_GMOCK OFF CACHE BOOL "")
+    set(CMAKE_COMPILE_WARNING_AS_ERROR OFF)
+    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+    unset(CMAKE_COMPILE_WARNING_AS_ERROR)
+endif()
