@@ -1,6 +1,8 @@
-#include <tandekor/tandekor.h>
+// Which model the phone is, asked in factory mode.
+#include <cstdio>
 
-// Exit status 0 for a phone of a known model, asked in factory mode.
+#include "tandekor/tandekor.h"
+
 int main()
 {
     uint32_t version = 0;
@@ -9,5 +11,6 @@ int main()
     const ResourceContext phone = TANDEKOR_ConnectServer(1);
     const bool passed = TANDEKOR_ONLINE_TO_FTM(phone) != 0 && TANDEKOR_Phone_Model(phone, &version, &chip, &model) != 0;
     TANDEKOR_DisconnectServer(phone);
+    std::printf("model %u: %s\n", model, passed ? "PASS" : "FAIL");
     return passed && model != TANDEKOR_MODEL_UNKNOWN ? 0 : 1;
 }
