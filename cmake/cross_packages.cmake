@@ -1,6 +1,6 @@
 # What a cross build takes from this machine's packages: libraries that are headers alone, each by a link of its own, as
 # the rest of /usr/include belongs to another system, and the sources of GoogleTest.
-set(host_headers ${CMAKE_BINARY_DIR}/host_headers)
+set(host_headers ${PROJECT_BINARY_DIR}/host_headers)
 function(add_header_library target folder)
     if(NOT EXISTS /usr/include/${folder})
         message(FATAL_ERROR "/usr/include/${folder} is missing; scripts/install-packages installs it")
@@ -18,6 +18,6 @@ endif()
 if(TANDEKOR_TESTS)
     set(BUILD_GMOCK OFF CACHE BOOL "")
     set(CMAKE_COMPILE_WARNING_AS_ERROR OFF)
-    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+    add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
     unset(CMAKE_COMPILE_WARNING_AS_ERROR)
 endif()

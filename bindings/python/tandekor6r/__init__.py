@@ -233,15 +233,17 @@ def _failure(values):
 
 
 def _open(folder, name):
-    if sys.platform == "win32":
-        # The folder of the library is searched for the libraries that it needs.
-        return ctypes.CDLL(str(Path(folder, name + ".dll").resolve()), winmode=0x00000008)
-    return ctypes.CDLL(str(Path(folder, f"lib{name}.so").resolve()))
+    windows = sys.platform == "win32"
+    names = [name + ".dll"] if windows else [f"lib{name}.so", f"lib{name}.so.{__version__.split('.')[0]}"]
+    if folder is None:
+        # Where the system looks; without the files for compilers there is only the name with the number.
+        return ctypes.CDLL(names[-1] if name == "Tandekor6R" else names[0])
+    found = next((path for path in (Path(folder, n) for n in names) if path.exists()), Path(folder, names[0])).resolve()
+    # The folder of the library is searched for the libraries that it needs.
+    return ctypes.CDLL(str(found), winmode=0x00000008) if windows else ctypes.CDLL(str(found))
 
 
 def load(folder=None):
-    """Loads the library and its host library from a folder, by default that of the environment variable TANDEKOR6R."""
-    folder = folder or os.environ.get("TANDEKOR6R")
-    if folder is None:
-        raise ValueError("which folder holds the library? load(folder), or the environment variable TANDEKOR6R")
-    return Library(folder)
+    """Loads the library and its host library from a folder: by default that of the environment variable TANDEKOR6R,
+    without it where the system looks for libraries."""
+    return Library(folder or os.environ.get("TANDEKOR6R"))
