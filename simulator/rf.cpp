@@ -248,14 +248,15 @@ uint8_t QLIB_FTM_HSDPA_BLER_Configure_PDSCH(ResourceContext hResourceContext, ui
     return InFtm(hResourceContext, __func__, Nothing, iHS_PDSCH_RadioLink_PCS);
 }
 
-uint8_t QLIB_FTM_HSDPA_BLER_Configure_HS_SCCH(ResourceContext hResourceContext, uint8_t iNumCodes, uint8_t* aiCodes)
+uint8_t QLIB_FTM_HSDPA_BLER_Configure_HS_SCCH(ResourceContext hResourceContext, uint8_t iNumCodes,
+                                              const uint8_t* aiCodes)
 {
     return InFtm(hResourceContext, __func__, Nothing, iNumCodes, BytesAt(aiCodes, iNumCodes));
 }
 
 uint8_t QLIB_FTM_HSDPA_BLER_Configure_HS_DSCH(ResourceContext hResourceContext, uint16_t iH_RNTI,
                                               uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
-                                              void* aiMemPartitionInfo)
+                                              const void* aiMemPartitionInfo)
 {
     return InFtm(hResourceContext, __func__, Nothing, iH_RNTI, iNum_HARQ_Processes, bMemPartitionValid,
                  aiMemPartitionInfo != nullptr);
@@ -324,7 +325,7 @@ uint8_t QLIB_FTM_EGPRS_BER_GetRxMetrics(ResourceContext hResourceContext, uint8_
 }
 
 // --- the normal call stack
-uint8_t QLIB_DIAG_GSM_CALL_ORIG_F(ResourceContext hResourceContext, uint8_t iNumDigits, uint8_t* aiIMSI)
+uint8_t QLIB_DIAG_GSM_CALL_ORIG_F(ResourceContext hResourceContext, uint8_t iNumDigits, const uint8_t* aiIMSI)
 {
     if (!Reaches(hResourceContext, __func__, iNumDigits, BytesAt(aiIMSI, iNumDigits))
         || ThePhone().mode != Mode::Online)

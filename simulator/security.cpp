@@ -59,7 +59,7 @@ uint8_t RunUpload(const std::string& operation)
 
 }  // namespace
 
-uint8_t QLIB_DIAG_SPC_F(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result)
+uint8_t QLIB_DIAG_SPC_F(ResourceContext hResourceContext, const char* iSPC, uint8_t* piSPC_Result)
 {
     if (!Reaches(hResourceContext, __func__, iSPC))
         return 0;

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+
+#include "record_text.h"
 
 namespace tandekor::line
 {
@@ -15,13 +16,6 @@ std::string Trimmed(const std::string& text)
 {
     const size_t first = text.find_first_not_of(" \t");
     return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
-std::string Number(double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof text, "%.10g", value);
-    return text;
 }
 
 // An empty text is no bound.
@@ -61,7 +55,7 @@ std::string Shown(const Limit& limit)
 {
     if (limit.text)
         return *limit.text;
-    return (limit.low ? Number(*limit.low) : "") + ".." + (limit.high ? Number(*limit.high) : "");
+    return (limit.low ? NumberText(*limit.low) : "") + ".." + (limit.high ? NumberText(*limit.high) : "");
 }
 
 }  // namespace
@@ -126,34 +120,9 @@ void Judge(const Test& test, const Options& options, Outcome& outcome)
 
 std::string Shown(const std::string& test, const Measure& measure)
 {
-    const auto* text = std::get_if<std::string>(&measure.value);
-    const std::string value = text != nullptr ? Printable(*text) : Number(std::get<double>(measure.value));
-    return test + '.' + measure.name + ' ' + value + (measure.unit.empty() ? "" : " " + measure.unit)
+    return test + '.' + measure.name + ' ' + Readable(ValueText(measure))
            + (measure.verdict == Verdict::NotJudged ? "" : " [" + Shown(measure.limit) + ']') + ' '
-           + Name(measure.verdict);
-}
-
-const char* Name(Verdict verdict)
-{
-    static constexpr const char* names[] = {"PASS", "FAIL", "NOT JUDGED", "SKIPPED", "NOT RUN"};
-    return names[static_cast<size_t>(verdict)];
-}
-
-std::string Printable(const std::string& text)
-{
-    std::string printable;
-    for (const char character : text)
-    {
-        if ((character >= ' ' && character <= '~') || character == '\n' || character == '\t')
-        {
-            printable += character;
-            continue;
-        }
-        char escaped[8];
-        std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(static_cast<unsigned char>(character)));
-        printable += escaped;
-    }
-    return printable;
+           + VerdictShown(measure.verdict);
 }
 
 }  // namespace tandekor::line

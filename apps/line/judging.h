@@ -18,9 +18,4 @@ void Judge(const Test& test, const Options& options, Outcome& outcome);
 // As in "battery.charge 0 % [50..100] FAIL".
 std::string Shown(const std::string& test, const Measure& measure);
 
-const char* Name(Verdict verdict);
-
-// With bytes that are no printable characters as \xNN; line ends and tabs stay.
-std::string Printable(const std::string& text);
-
 }  // namespace tandekor::line

@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr std::array<std::string_view, 5> verdictNames{"passed", "failed", "not_judged", "skipped", "not_run"};
-constexpr std::array<std::string_view, 5> verdictsShown{"PASS", "FAIL", "NOT JUDGED", "SKIPPED", "NOT RUN"};
+constexpr std::array<const char*, 5> verdictsShown{"PASS", "FAIL", "NOT JUDGED", "SKIPPED", "NOT RUN"};
 
 uint8_t ByteAt(std::string_view text, size_t index)
 {
@@ -143,7 +143,7 @@ std::string DurationText(uint32_t durationMs)
 
 std::string_view VerdictName(Verdict verdict) { return verdictNames.at(static_cast<size_t>(verdict)); }
 
-std::string_view VerdictShown(Verdict verdict) { return verdictsShown.at(static_cast<size_t>(verdict)); }
+const char* VerdictShown(Verdict verdict) { return verdictsShown.at(static_cast<size_t>(verdict)); }
 
 std::string ValueText(const Measure& measure)
 {

@@ -29,7 +29,7 @@ std::string DurationText(uint32_t durationMs);
 
 // How a verdict is named in files, and how it is shown.
 std::string_view VerdictName(Verdict verdict);
-std::string_view VerdictShown(Verdict verdict);
+const char* VerdictShown(Verdict verdict);
 
 std::string ValueText(const Measure& measure);
 std::string LimitText(const Limit& limit, const std::string& unit);

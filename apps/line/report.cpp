@@ -6,6 +6,7 @@
 
 #include "judging.h"
 #include "machine.h"
+#include "record_text.h"
 
 namespace tandekor::line
 {
@@ -140,7 +141,7 @@ void Report::Result(const TestRecord& test) const
         AddLine(text, "after " + std::to_string(test.attempts) + " attempts");
     if (terminal)
         std::fprintf(stderr, "%s", startOfLine);
-    std::printf("  %s%-10s%s %8s  %-16s  %s\n", colours ? Colour(test.verdict) : "", Name(test.verdict),
+    std::printf("  %s%-10s%s %8s  %-16s  %s\n", colours ? Colour(test.verdict) : "", VerdictShown(test.verdict),
                 colours ? "\033[0m" : "", test.durationMs < worthTelling ? "" : Seconds(test.durationMs).c_str(),
                 test.name.c_str(), Indented(text).c_str());
     std::fflush(stdout);
@@ -149,7 +150,7 @@ void Report::Result(const TestRecord& test) const
 void Report::Summary(const RunRecord& run) const
 {
     std::printf("\n%s%s%s  %s: %d passed, %d failed, %d not judged, %d skipped, %d not run, in %s%s on the %s%s\n",
-                colours ? Colour(run.verdict) : "", Name(run.verdict), colours ? "\033[0m" : "",
+                colours ? Colour(run.verdict) : "", VerdictShown(run.verdict), colours ? "\033[0m" : "",
                 run.dut.empty() ? "phone without a name" : run.dut.c_str(), Count(run, Verdict::Passed),
                 Count(run, Verdict::Failed), Count(run, Verdict::NotJudged), Count(run, Verdict::Skipped),
                 Count(run, Verdict::NotRun), Seconds(run.durationMs).c_str(),

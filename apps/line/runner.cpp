@@ -6,6 +6,7 @@
 
 #include "judging.h"
 #include "machine.h"
+#include "record_text.h"
 #include "station.h"
 #include "transmitter.h"
 
@@ -29,7 +30,7 @@ public:
         while (std::getline(file, line))
         {
             line.erase(line.find_last_not_of('\r') + 1);
-            lines.push_back(Printable(line));
+            lines.push_back(Readable(line));
         }
         return lines;
     }
@@ -134,7 +135,7 @@ private:
             ++record.attempts;
             Outcome outcome = RunOnce(test, place, record);
             record.verdict = outcome.verdict;
-            record.text = Printable(outcome.text);
+            record.text = Readable(outcome.text);
             record.failedFunction = outcome.Is(Verdict::Failed) ? outcome.function : "";
             record.measures = std::move(outcome.measures);
         } while (record.verdict == Verdict::Failed && record.attempts < most && context.state >= test.needs

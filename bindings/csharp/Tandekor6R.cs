@@ -2060,7 +2060,8 @@ public static class Tandekor6R
 
     /// <summary>
     /// Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which
-    /// takes about 20 seconds and at most about 72.
+    /// takes about 20 seconds and at most about 72. Of a phone that does not answer again a remark is logged, without
+    /// "Failure".
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="bFTMMode">TandekorPhoneMode; written as it is</param>
@@ -2084,11 +2085,12 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_FTM_TO_ONLINE(uint hResourceContext);
 
     /// <summary>
-    /// Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode
-    /// asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+    /// Switches the phone on by the boot box, asks up to 70 times in 28 seconds for its first answer and brings it
+    /// into the mode asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+    /// An answer to the last of the 70 is too late; no line says so. No step has a start line here.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="iBootBoxPort">number of the boot box's serial port. The port is opened by the first call for this process alone and stays open until the connection ends; another number than the open one is refused. On Windows the port is COM&lt;number>. Elsewhere it is the device /dev/com&lt;number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS&lt;number - 1>. Where another process holds the port, its lines may be raised before it is refused</param>
+    /// <param name="iBootBoxPort">number of the boot box's serial port. The first call opens the port for this process only; it stays open until the connection ends, and another number than the open one is refused. On Windows the port is COM&lt;number>. Elsewhere it is the device /dev/com&lt;number> if there is one (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS&lt;number - 1>. Where another process holds the port, its lines may be raised before it is refused</param>
     /// <param name="bFTMMode">TandekorPhoneMode; any other value than its first two leaves the mode unchanged</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_BootBox_SwitchMobileOn(uint hResourceContext, ushort iBootBoxPort, byte bFTMMode);
@@ -2115,7 +2117,8 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_Phone_Model(uint hResourceContext, ref uint piVerNumber, ref uint piMSMModel, ref uint piPhoneModel);
 
     /// <summary>
-    /// The phone model of a hardware variant on a chip family. No phone is asked.
+    /// The phone model of a hardware variant on a chip family. No phone is asked, and nothing is
+    /// logged.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iVerNumber">hardware variant</param>
@@ -2449,7 +2452,7 @@ public static class Tandekor6R
     /// over. The log is muted while the phone restarts, and never left muted.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="iSPC">service programming code, six digits; shown in the log</param>
+    /// <param name="iSPC">service programming code, six digits and a NUL; shown in the log</param>
     /// <param name="piSPC_Result">as the host library has it; not checked</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_Virtual_SIM(uint hResourceContext, [MarshalAs(UnmanagedType.LPStr)] string iSPC, ref byte piSPC_Result);

@@ -300,7 +300,7 @@ extern "C"
      *
      * [in] iSwitch  1 on, 0 off
      */
-    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, const uint8_t* iSwitch);
 
     /*
      * Requests to the headset amplifier. The reply is not unpacked: the read returns no value. The result is the host
@@ -309,9 +309,9 @@ extern "C"
      * [in] iHeadsetReg  the word that is sent
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext,
-                                                                     uint32_t* iHeadsetReg);
+                                                                     const uint32_t* iHeadsetReg);
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_HEADSET_AMP_WRITE(ResourceContext hResourceContext,
-                                                                      uint32_t* iHeadsetReg);
+                                                                      const uint32_t* iHeadsetReg);
 
     /* --- SIM, memory card, factory data, RF items */
 
@@ -477,9 +477,10 @@ extern "C"
      *
      * [in] sFileName[TANDEKOR_FTM_FILE_NAME_SIZE]  path on the phone; all 128 bytes are sent
      */
-    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DISPLAY_IMAGE(ResourceContext hResourceContext, char* sFileName);
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DISPLAY_IMAGE(ResourceContext hResourceContext,
+                                                                  const char* sFileName);
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DISPLAY_IMAGE_24BIT(ResourceContext hResourceContext,
-                                                                        char* sFileName);
+                                                                        const char* sFileName);
 
     /*
      * Level and switch of the display's backlight, and the display's contrast.

@@ -110,7 +110,8 @@ extern "C"
 
     /*
      * Takes the phone offline, writes the mode in which it starts, resets it and waits until it answers again, which
-     * takes about 20 seconds and at most about 72.
+     * takes about 20 seconds and at most about 72. Of a phone that does not answer again a remark is logged, without
+     * "Failure".
      *
      * [in] bFTMMode  TandekorPhoneMode; written as it is
      */
@@ -127,18 +128,16 @@ extern "C"
     /* --- Power of the phone, by a boot box */
 
     /*
-     * Switches the phone on by the boot box, waits up to 28 seconds for its first answer and brings it into the mode
-     * asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+     * Switches the phone on by the boot box, asks up to 70 times in 28 seconds for its first answer and brings it
+     * into the mode asked for, by a reset if need be (then the time of TANDEKOR_ModeChangeResetMobile comes on top).
+     * An answer to the last of the 70 is too late; no line says so. No step has a start line here.
      *
-     * [in] iBootBoxPort  number of the boot box's serial port. The port is opened by the first call for this process
-     *         alone and
-     *                    stays open until the connection ends; another number than the open one is refused. On Windows
-     *                    the port
-     *                    is COM<number>. Elsewhere it is the device /dev/com<number> if there is one (a link such as
-     *                    /dev/com5
-     *                    -> ttyUSB0 gives a USB adapter a number), else /dev/ttyS<number - 1>. Where another process
-     *                    holds the
-     *                    port, its lines may be raised before it is refused
+     * [in] iBootBoxPort  number of the boot box's serial port. The first call opens the port for this process only; it
+     *                    stays open until the connection ends, and another number than the open one is refused. On
+     *                    Windows the port is COM<number>. Elsewhere it is the device /dev/com<number> if there is one
+     *                    (a link such as /dev/com5 -> ttyUSB0 gives a USB adapter a number), else
+     *                    /dev/ttyS<number - 1>. Where another process holds the port, its lines may be raised before
+     *                    it is refused
      * [in] bFTMMode      TandekorPhoneMode; any other value than its first two leaves the mode unchanged
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOn(ResourceContext hResourceContext,
@@ -170,7 +169,8 @@ extern "C"
                                                             uint32_t* piMSMModel, uint32_t* piPhoneModel);
 
     /*
-     * The phone model of a hardware variant on a chip family. No phone is asked.
+     * The phone model of a hardware variant on a chip family. No phone is asked, and nothing is
+     * logged.
      *
      * [in]  iVerNumber    hardware variant
      * [in]  iMSMModel     chip family, 1 to 4
@@ -300,8 +300,8 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_RX_WCDMA_Adjust(
         ResourceContext hResourceContext, uint8_t iLNArange, int16_t iDvgaExpectedRX_AGC, void* piDVGAoffsetValue,
-        uint16_t iWriteItemID, uint8_t* pWriteItemData, int32_t iWriteLength, uint16_t* piWriteStatus,
-        uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1,
+        uint16_t iWriteItemID, const uint8_t* pWriteItemData, int32_t iWriteLength, uint16_t* piWriteStatus,
+        uint16_t eVgaNvBand, uint16_t iOffset, const uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1,
         uint8_t* piFall2, uint8_t* piFall3, uint16_t iReadItemID, uint8_t* pReadItemData, int32_t iReadLength,
         uint16_t* piReadStatus, uint16_t eRiseNvBand, uint8_t* piRise1, uint8_t* piRise2, uint8_t* piRise3,
         uint16_t iLNAindex, int16_t iLnaExpectedRX_AGC, int16_t* piLNAoffsetValue);
@@ -325,13 +325,14 @@ extern "C"
      * [in, or null] piVsFreq[16]  VGA gain by frequency
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Write_RX_Adjustment_Values(
-        ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
-        uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
-        uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
-        uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2,
-        uint8_t* Gsm850Range3, uint8_t* Gsm850Range4, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1,
-        int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3, uint16_t eVgaNvBand,
-        uint16_t iOffset, uint8_t* piVsFreq);
+        ResourceContext hResourceContext, uint8_t bStartBatchMode, const uint8_t* Gsm900Range1,
+        const uint8_t* Gsm900Range2, const uint8_t* Gsm900Range3, const uint8_t* Gsm900Range4,
+        const uint8_t* Gsm1900Range1, const uint8_t* Gsm1900Range2, const uint8_t* Gsm1900Range3,
+        const uint8_t* Gsm1900Range4, const uint8_t* Gsm1800Range1, const uint8_t* Gsm1800Range2,
+        const uint8_t* Gsm1800Range3, const uint8_t* Gsm1800Range4, const uint8_t* Gsm850Range1,
+        const uint8_t* Gsm850Range2, const uint8_t* Gsm850Range3, const uint8_t* Gsm850Range4, uint8_t eNvBand,
+        int16_t iOffset1, const uint8_t* piVsFreq1, int16_t iOffset2, const uint8_t* piVsFreq2, int16_t iOffset3,
+        const uint8_t* piVsFreq3, uint16_t eVgaNvBand, uint16_t iOffset, const uint8_t* piVsFreq);
 
     /* --- Transmitter
      *
@@ -487,10 +488,10 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Reduced_Signalling_HSDPA(
         ResourceContext hResourceContext, uint8_t iReconfigBitmask, uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes,
-        uint8_t* aiCodes, uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
-        void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle, uint8_t iCQI_RepetitionFactor,
-        uint8_t iDeltaCQI, uint8_t iDeltaACK, uint8_t iDeltaNACK, uint8_t iACK_NACK_RepetitionFactor,
-        uint8_t* pHSDPA_BER_State);
+        const uint8_t* aiCodes, uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
+        const void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle,
+        uint8_t iCQI_RepetitionFactor, uint8_t iDeltaCQI, uint8_t iDeltaACK, uint8_t iDeltaNACK,
+        uint8_t iACK_NACK_RepetitionFactor, uint8_t* pHSDPA_BER_State);
 
     /*
      * EDGE: call, downlink and uplink on one pair of slots, loopback, release, state and receive level.
@@ -527,7 +528,7 @@ extern "C"
      * [in] aiIMSI[iNumDigits]   the digits, as the host library has them; shown in the log as a text
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits,
-                                                          uint8_t* aiIMSI);
+                                                          const uint8_t* aiIMSI);
 
     /* --- Network and SIM */
 
@@ -536,10 +537,10 @@ extern "C"
      * clock, back online, SIM; takes at least 4 and at most 42 seconds of waits. A failed clock is logged and passed
      * over. The log is muted while the phone restarts, and never left muted.
      *
-     * [in]  iSPC          service programming code, six digits; shown in the log
+     * [in]  iSPC          service programming code, six digits and a NUL; shown in the log
      * [out] piSPC_Result  as the host library has it; not checked
      */
-    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC,
+    TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, const char* iSPC,
                                                             uint8_t* piSPC_Result);
 
     /* Sets the phone's clock to Coordinated Universal Time. The host library's time mode is given as 0. */
@@ -615,8 +616,9 @@ extern "C"
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers,
                                                                uint32_t iDataOffset, uint16_t iDataSize, void* pBuffer,
-                                                               uint16_t iItemID, uint8_t* pItemData, int32_t iLength,
-                                                               uint32_t iReservedWord, int16_t iCodecTxGainAdjust);
+                                                               uint16_t iItemID, const uint8_t* pItemData,
+                                                               int32_t iLength, uint32_t iReservedWord,
+                                                               int16_t iCodecTxGainAdjust);
 
     /* Clears bit 0 and sets the bits 1 to 3 of the register 0x84001308. Not checked, not logged; fails only if the
      * register cannot be read. */
@@ -659,9 +661,9 @@ extern "C"
      * [in] uiDsplNum  number of the display, from 0 on
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext,
-                                                                        char* sFileName, uint8_t uiDsplNum);
+                                                                        const char* sFileName, uint8_t uiDsplNum);
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext,
-                                                                             char* sFileName, uint8_t uiDsplNum);
+                                                                             const char* sFileName, uint8_t uiDsplNum);
 
     /* --- Bluetooth */
 

@@ -31,7 +31,9 @@ bool EndsIn(const PacketBuffer& reply, const char* word)
 
 void AtChannel::StartNamed(const char* name, const char* command)
 {
-    Trace(hResourceContext, "%s()", name);
+    LogLine line(name);
+    line.Add("()");
+    line.Write(hResourceContext);
     StartCommand(command);
 }
 

@@ -124,7 +124,7 @@ bool FtmChannel::ErrorCode(const FormattedText& text, uint16_t code)
 
 bool FtmChannel::Completed(const FormattedText& text)
 {
-    text.WriteWithEnding(hResourceContext, completedEnding);
+    text.WriteWithPlainEnding(hResourceContext, completedEnding);
     return true;
 }
 

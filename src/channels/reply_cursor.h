@@ -17,14 +17,14 @@ class ReplyCursor
 {
 public:
     // Starts at the index, or at the first byte if the index is negative.
-    ReplyCursor(const PacketBuffer& replyBuffer, int start) : reply(replyBuffer), index(std::max(start, 0)) {}
-
-    bool AtEnd() const { return index >= reply.ResponseLength(); }
-    int Index() const { return index; }
-    uint8_t Ahead(int distance) const
+    ReplyCursor(const PacketBuffer& reply, int start)
+        : bytes(reply.ResponseFrom(0)), length(reply.ResponseLength()), index(std::max(start, 0))
     {
-        return index + distance < reply.ResponseLength() ? reply.ResponseAt(index + distance) : uint8_t{0};
     }
+
+    bool AtEnd() const { return index >= length; }
+    int Index() const { return index; }
+    uint8_t Ahead(int distance) const { return index + distance < length ? bytes[index + distance] : uint8_t{0}; }
     uint8_t Current() const { return Ahead(0); }
 
     void Skip(int count = 1) { index += count; }
@@ -67,7 +67,8 @@ private:
         return value;
     }
 
-    const PacketBuffer& reply;
+    const uint8_t* bytes;
+    int length;
     int index;
 };
 

@@ -1,6 +1,5 @@
 #include "connection/connection_registry.h"
 
-#include <algorithm>
 #include <new>
 
 #include "channels/at_channel.h"
@@ -35,23 +34,20 @@ ConnectionRegistry& ConnectionRegistry::Instance()
     return registry;
 }
 
-ConnectionRegistry::Position ConnectionRegistry::FindConnection(ResourceContext handle)
-{
-    return std::find_if(connections.begin(), connections.end(),
-                        [handle](const ConnectionRecord& record) { return record.hResourceContext == handle; });
-}
-
 bool ConnectionRegistry::AddConnection(ResourceContext handle)
 {
-    const Position record = FindConnection(handle);
-    if (record != connections.end())
+    const auto found = positions.find(handle);
+    if (found != positions.end())
     {
-        ++record->useCount;
+        ++found->second->useCount;
         return true;
     }
     try
     {
-        connections.emplace_back(handle);
+        std::list<ConnectionRecord> added;
+        added.emplace_back(handle);
+        positions.emplace(handle, added.begin());
+        connections.splice(connections.end(), added);
     }
     catch (const std::bad_alloc&)
     {
@@ -62,31 +58,35 @@ bool ConnectionRegistry::AddConnection(ResourceContext handle)
 
 void ConnectionRegistry::RemoveConnection(ResourceContext handle)
 {
-    const Position record = FindConnection(handle);
-    if (record == connections.end())
+    const auto found = positions.find(handle);
+    if (found == positions.end() || --found->second->useCount > 0)
         return;
-    if (record->useCount <= 1)
-        connections.erase(record);
-    else
-        --record->useCount;
+    connections.erase(found->second);
+    positions.erase(found);
 }
 
-BootBoxPort* ConnectionRegistry::GetBootBoxPort(ResourceContext handle)
+void ConnectionRegistry::RemoveAllConnections()
+{
+    positions.clear();
+    connections.clear();
+}
+
+BootBoxPort* ConnectionRegistry::GetBootBoxPort(ResourceContext handle) const
 {
     return ServiceOf(handle, &ConnectionRecord::bootBoxPort);
 }
 
-FtmChannel* ConnectionRegistry::GetFtmChannel(ResourceContext handle)
+FtmChannel* ConnectionRegistry::GetFtmChannel(ResourceContext handle) const
 {
     return ServiceOf(handle, &ConnectionRecord::ftmChannel);
 }
 
-AtChannel* ConnectionRegistry::GetAtChannel(ResourceContext handle)
+AtChannel* ConnectionRegistry::GetAtChannel(ResourceContext handle) const
 {
     return qpstMode ? nullptr : ServiceOf(handle, &ConnectionRecord::atChannel);
 }
 
-ObexChannel* ConnectionRegistry::GetObexChannel(ResourceContext handle)
+ObexChannel* ConnectionRegistry::GetObexChannel(ResourceContext handle) const
 {
     return qpstMode ? nullptr : ServiceOf(handle, &ConnectionRecord::obexChannel);
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <list>
+#include <unordered_map>
 
 #include "tandekor/common.h"
 
@@ -40,13 +41,13 @@ public:
     bool AddConnection(ResourceContext handle);
     // Counts one use less; the last one removes the record.
     void RemoveConnection(ResourceContext handle);
-    void RemoveAllConnections() { connections.clear(); }
+    void RemoveAllConnections();
 
     // Null for an unknown handle; the AT and OBEX channels are null in QPST mode too.
-    BootBoxPort* GetBootBoxPort(ResourceContext handle);
-    FtmChannel* GetFtmChannel(ResourceContext handle);
-    AtChannel* GetAtChannel(ResourceContext handle);
-    ObexChannel* GetObexChannel(ResourceContext handle);
+    BootBoxPort* GetBootBoxPort(ResourceContext handle) const;
+    FtmChannel* GetFtmChannel(ResourceContext handle) const;
+    AtChannel* GetAtChannel(ResourceContext handle) const;
+    ObexChannel* GetObexChannel(ResourceContext handle) const;
 
     bool qpstMode = false;
 
@@ -56,17 +57,16 @@ private:
     ConnectionRegistry() = default;
     ~ConnectionRegistry() = default;
 
-    Position FindConnection(ResourceContext handle);
-
     // The service of the handle's record, or null.
     template <typename Service>
-    Service* ServiceOf(ResourceContext handle, Service* ConnectionRecord::*service)
+    Service* ServiceOf(ResourceContext handle, Service* ConnectionRecord::*service) const
     {
-        const Position record = FindConnection(handle);
-        return record == connections.end() ? nullptr : (*record).*service;
+        const auto found = positions.find(handle);
+        return found == positions.end() ? nullptr : (*found->second).*service;
     }
 
     std::list<ConnectionRecord> connections;  // in the order of the connects
+    std::unordered_map<ResourceContext, Position> positions;
 };
 
 }  // namespace tandekor

@@ -1,5 +1,6 @@
 #include "core/text_log.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -8,16 +9,16 @@
 namespace tandekor
 {
 
-LogLine::LogLine(const char* start)
+LogLine::LogLine(std::string_view start)
 {
     line[0] = '\0';
     Add(start);
 }
 
-void LogLine::Add(const char* text)
+void LogLine::Add(std::string_view text)
 {
-    const size_t added = strnlen(text, sizeof line - 1 - length);
-    std::memcpy(line + length, text, added);
+    const size_t added = std::min(text.size(), sizeof line - 1 - length);
+    std::memcpy(line + length, text.data(), added);
     length += added;
     line[length] = '\0';
 }
@@ -53,21 +54,36 @@ void FormattedText::Fill(const char* format, va_list values)
     std::vsnprintf(line + 1, textBufferSize, format, values);
 }
 
-void FormattedText::WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const
+template <typename PutEnding>
+void FormattedText::WriteLine(ResourceContext hResourceContext, PutEnding putEnding) const
 {
     char* const end = line + std::strlen(line);
     const char last = line[textBufferSize - 1];
     line[textBufferSize - 1] = '\0';
     if (end < line + textBufferSize - 1)
-    {
-        va_list values;
-        va_start(values, format);
-        std::vsnprintf(end, static_cast<size_t>(line + textBufferSize - end), format, values);
-        va_end(values);
-    }
+        putEnding(end, static_cast<size_t>(line + textBufferSize - end));
     WriteToLog(hResourceContext, line);
     line[textBufferSize - 1] = last;
     *end = '\0';
+}
+
+void FormattedText::WriteWithPlainEnding(ResourceContext hResourceContext, std::string_view ending) const
+{
+    WriteLine(hResourceContext,
+              [ending](char* end, size_t room)
+              {
+                  const size_t length = std::min(ending.size(), room - 1);
+                  std::memcpy(end, ending.data(), length);
+                  end[length] = '\0';
+              });
+}
+
+void FormattedText::WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const
+{
+    va_list values;
+    va_start(values, format);
+    WriteLine(hResourceContext, [&](char* end, size_t room) { std::vsnprintf(end, room, format, values); });
+    va_end(values);
 }
 
 void WriteToLog(ResourceContext hResourceContext, const char* text)

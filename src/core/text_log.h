@@ -3,6 +3,7 @@
 
 #include <cstdarg>
 #include <cstddef>
+#include <string_view>
 
 #include "tandekor/common.h"
 
@@ -21,9 +22,9 @@ constexpr char failureEnding[] = " - Failure\n";
 class LogLine
 {
 public:
-    explicit LogLine(const char* start);
+    explicit LogLine(std::string_view start);
 
-    void Add(const char* text);
+    void Add(std::string_view text);
     void AddFormatted(const char* format, va_list values);
     void Write(ResourceContext hResourceContext) const;
 
@@ -44,12 +45,16 @@ public:
 
     const char* Text() const { return line + 1; }
 
-    // Writes a tab, the text and an ending to the log.
+    // Writes a tab, the text and an ending to the log; the plain one is no format.
+    void WriteWithPlainEnding(ResourceContext hResourceContext, std::string_view ending) const;
     void WriteWithEnding(ResourceContext hResourceContext, const char* format, ...) const
         __attribute__((format(printf, 3, 4)));
 
 private:
     void Fill(const char* format, va_list values);
+    // Writes the line after the ending was put to its end by the function, which takes the place and the room there.
+    template <typename PutEnding>
+    void WriteLine(ResourceContext hResourceContext, PutEnding putEnding) const;
 
     mutable char line[1 + textBufferSize];  // with the tab, and an ending while that is written
 };

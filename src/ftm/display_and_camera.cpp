@@ -49,12 +49,12 @@ uint8_t CameraId(ResourceContext hResourceContext, const char* name, const facto
 
 // --- display
 
-uint8_t TANDEKOR_FTM_DISPLAY_IMAGE(ResourceContext hResourceContext, char* sFileName)
+uint8_t TANDEKOR_FTM_DISPLAY_IMAGE(ResourceContext hResourceContext, const char* sFileName)
 {
     return DisplayFile(hResourceContext, __func__, factory::DisplayImage, sFileName);
 }
 
-uint8_t TANDEKOR_FTM_DISPLAY_IMAGE_24BIT(ResourceContext hResourceContext, char* sFileName)
+uint8_t TANDEKOR_FTM_DISPLAY_IMAGE_24BIT(ResourceContext hResourceContext, const char* sFileName)
 {
     return DisplayFile(hResourceContext, __func__, factory::DisplayImage24Bit, sFileName);
 }

@@ -211,7 +211,7 @@ uint8_t TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum,
 }
 
 // The phone repeats the value.
-uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
+uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, const uint8_t* iSwitch)
 {
     const char* const name = __func__;
     return With(Ftm(hResourceContext),
@@ -237,7 +237,7 @@ uint8_t TANDEKOR_FTM_GG_MODE(ResourceContext hResourceContext, uint8_t* iSwitch)
 
 // --- headset amplifier. The reply is not unpacked.
 
-uint8_t TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext, uint32_t* iHeadsetReg)
+uint8_t TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext, const uint32_t* iHeadsetReg)
 {
     const char* const name = __func__;
     return With(Ftm(hResourceContext),
@@ -251,7 +251,7 @@ uint8_t TANDEKOR_FTM_HEADSET_AMP_READ(ResourceContext hResourceContext, uint32_t
                 });
 }
 
-uint8_t TANDEKOR_FTM_HEADSET_AMP_WRITE(ResourceContext hResourceContext, uint32_t* iHeadsetReg)
+uint8_t TANDEKOR_FTM_HEADSET_AMP_WRITE(ResourceContext hResourceContext, const uint32_t* iHeadsetReg)
 {
     const char* const name = __func__;
     return With(Ftm(hResourceContext),

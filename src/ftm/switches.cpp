@@ -35,7 +35,7 @@ uint8_t TANDEKOR_FTM_SET_LOW_POWER_MODE(ResourceContext hResourceContext, uint8_
                     {
                         if (ftm.Exchange(factory::SetLowPowerMode, {iLowPowerMode}, deepestModeReplyTimeMs) != 0)
                         {
-                            text.WriteWithEnding(hResourceContext, failureEnding);
+                            text.WriteWithPlainEnding(hResourceContext, failureEnding);
                             return false;
                         }
                     }
@@ -47,7 +47,7 @@ uint8_t TANDEKOR_FTM_SET_LOW_POWER_MODE(ResourceContext hResourceContext, uint8_
                         if (status != 0)
                             return ftm.ErrorCode(text, status);
                     }
-                    text.WriteWithEnding(hResourceContext, "  - Completed successfully\n");
+                    text.WriteWithPlainEnding(hResourceContext, "  - Completed successfully\n");
                     return true;
                 });
 }

@@ -47,7 +47,7 @@ extern "C"
     // --- diagnostics: state, identification
     QLIB_API uint8_t QLIB_DIAG_CONTROL_F(ResourceContext hResourceContext, uint32_t eMode);
     QLIB_API uint8_t QLIB_DIAG_STATUS_F(ResourceContext hResourceContext, uint8_t* iTMC_State);
-    QLIB_API uint8_t QLIB_DIAG_SPC_F(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result);
+    QLIB_API uint8_t QLIB_DIAG_SPC_F(ResourceContext hResourceContext, const char* iSPC, uint8_t* piSPC_Result);
     QLIB_API uint8_t QLIB_DIAG_EXT_BUILD_ID_F(ResourceContext hResourceContext, uint32_t* iMSMHardwareVersion,
                                               uint32_t* iBuildMobModel, char* sBuildId, char* sBuildModel);
     QLIB_API uint8_t QLIB_DIAG_VERNO_F(ResourceContext hResourceContext, char* sCompileDate, char* sCompileTime,
@@ -73,7 +73,8 @@ extern "C"
                                                    uint16_t iNumItems, const uint32_t* pItemArray);
 
     // --- diagnostics: calls and key presses
-    QLIB_API uint8_t QLIB_DIAG_GSM_CALL_ORIG_F(ResourceContext hResourceContext, uint8_t iNumDigits, uint8_t* aiIMSI);
+    QLIB_API uint8_t QLIB_DIAG_GSM_CALL_ORIG_F(ResourceContext hResourceContext, uint8_t iNumDigits,
+                                               const uint8_t* aiIMSI);
     QLIB_API uint8_t QLIB_DIAG_GSM_CALL_END_F(ResourceContext hResourceContext);
     QLIB_API uint8_t QLIB_DIAG_KeyPress_ClearMap(ResourceContext hResourceContext);
     QLIB_API uint8_t QLIB_DIAG_KeyPress_AddMapEntry(ResourceContext hResourceContext, uint16_t iHW_ID,
@@ -138,10 +139,10 @@ extern "C"
     QLIB_API uint8_t QLIB_FTM_HSDPA_BLER_Configure_PDSCH(ResourceContext hResourceContext,
                                                          uint16_t iHS_PDSCH_RadioLink_PCS);
     QLIB_API uint8_t QLIB_FTM_HSDPA_BLER_Configure_HS_SCCH(ResourceContext hResourceContext, uint8_t iNumCodes,
-                                                           uint8_t* aiCodes);
+                                                           const uint8_t* aiCodes);
     QLIB_API uint8_t QLIB_FTM_HSDPA_BLER_Configure_HS_DSCH(ResourceContext hResourceContext, uint16_t iH_RNTI,
                                                            uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
-                                                           void* aiMemPartitionInfo);
+                                                           const void* aiMemPartitionInfo);
     QLIB_API uint8_t QLIB_FTM_HSDPA_BLER_Configure_HS_DPCCH(ResourceContext hResourceContext,
                                                             uint8_t iCPICH_PowerOffset, uint8_t iCQI_FeedbackCycle,
                                                             uint8_t iCQI_RepetitionFactor, uint8_t iDeltaCQI,

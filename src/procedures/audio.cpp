@@ -77,7 +77,7 @@ uint8_t TANDEKOR_TestSpeaker(ResourceContext hResourceContext, uint16_t iAudioDe
 
 // The capture is not stopped after a failed fetch. The success line of its start has no closing bracket.
 uint8_t TANDEKOR_TestMicrophone(ResourceContext hResourceContext, uint16_t iNumBuffers, uint32_t iDataOffset,
-                                uint16_t iDataSize, void* pBuffer, uint16_t iItemID, uint8_t* pItemData,
+                                uint16_t iDataSize, void* pBuffer, uint16_t iItemID, const uint8_t* pItemData,
                                 int32_t iLength, uint32_t /*iReservedWord*/, int16_t iCodecTxGainAdjust)
 {
     const PhoneProcedure phone(hResourceContext);

@@ -16,6 +16,22 @@ namespace
 constexpr size_t fileNameSize = 128;
 constexpr uint32_t rawRequestTimeMs = 2000;
 
+// Never inlined, so that the response is not on the stack while the phone's model is asked for.
+[[gnu::noinline]] bool SelectDisplay(const PhoneProcedure& phone, HostWord responseSize, uint8_t uiDsplNum)
+{
+    auto request = factory::BytesOf(factory::SelectDisplay, uiDsplNum);
+    uint8_t response[4096] = {};
+    constexpr int requestSize = request.size();
+    return phone.Step(
+        "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %u, piResponseSize = %i, iTimeout = %i)",
+        [&]
+        {
+            return QLIB_SendSync(phone.hResourceContext, requestSize, request.data(), responseSize.Out(), response,
+                                 rawRequestTimeMs);
+        },
+        requestSize, AddressOf{request.data()}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
+}
+
 }  // namespace
 
 uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t uiDsplNum)
@@ -31,7 +47,7 @@ uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t 
             msmModel))
         return 0;
 
-    HostWord responseSize(PhoneModelOf(phoneModel).displayResponse);
+    const HostWord responseSize(PhoneModelOf(phoneModel).displayResponse);
     if (responseSize.Value() == 0)
     {
         if (uiDsplNum == 0)
@@ -39,20 +55,10 @@ uint8_t TANDEKOR_SpecialSwitchDisplay(ResourceContext hResourceContext, uint8_t 
         phone.StepTrace(STEP_FAILURE, "ERROR: Mobile not supported");
         return 0;
     }
-    auto request = factory::BytesOf(factory::SelectDisplay, uiDsplNum);
-    uint8_t response[4096] = {};
-    constexpr int requestSize = request.size();
-    return phone.Step(
-        "QLIB_SendSync", "(iRequestSize = %i, piRequestBytes = %u, piResponseSize = %i, iTimeout = %i)",
-        [&]
-        {
-            return QLIB_SendSync(hResourceContext, requestSize, request.data(), responseSize.Out(), response,
-                                 rawRequestTimeMs);
-        },
-        requestSize, AddressOf{request.data()}, SignedWordOf{responseSize.Out()}, rawRequestTimeMs);
+    return SelectDisplay(phone, responseSize, uiDsplNum);
 }
 
-uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, const char* sFileName, uint8_t uiDsplNum)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()
@@ -64,7 +70,8 @@ uint8_t TANDEKOR_FTM_DrawContrastPattern(ResourceContext hResourceContext, char*
                ItemOf<fileNameSize>(sFileName));
 }
 
-uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, char* sFileName, uint8_t uiDsplNum)
+uint8_t TANDEKOR_FTM_DrawContrastPattern24Bit(ResourceContext hResourceContext, const char* sFileName,
+                                              uint8_t uiDsplNum)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()

@@ -49,6 +49,29 @@ bool AskPhoneModel(ResourceContext hResourceContext, uint32_t* piPhoneModel)
     return asked;
 }
 
+// Never inlined, as the next one, so that their texts are not on the stack while the phone's model is asked for.
+[[gnu::noinline]] bool SendBackLight(FtmChannel& ftm, uint16_t rowNumber, uint8_t backLightOn)
+{
+    return ftm.StandardAfterStart(
+        FormattedText("TANDEKOR_FTM_SetKeyPadBackLight(rowNumber = %d, backLightOn = %d)", rowNumber, backLightOn),
+        factory::SetKeyPadBackLight, {.send = {rowNumber * 10u + backLightOn}});
+}
+
+[[gnu::noinline]] uint8_t ReadSliderWord(FtmChannel& ftm, uint16_t* word)
+{
+    const FormattedText entry("TANDEKOR_FTM_GetSliderState()");
+    ftm.Start(entry);
+    const uint8_t result = ftm.Exchange(factory::GetSliderState, {});
+    if (result != 0)
+    {
+        ftm.Take({word});
+        ftm.Completed(entry);
+    }
+    else
+        ftm.NoReply(entry);
+    return result;
+}
+
 }  // namespace
 
 uint8_t TANDEKOR_FTM_SetKeyPadBackLight(ResourceContext hResourceContext, uint16_t rowNumber, uint8_t backLightOn)
@@ -82,10 +105,7 @@ uint8_t TANDEKOR_FTM_SetKeyPadBackLight(ResourceContext hResourceContext, uint16
                 Trace(hResourceContext, "\tParameter BackLightOn over the range (0-1).");
                 return false;
             }
-            return ftm.StandardAfterStart(
-                FormattedText("TANDEKOR_FTM_SetKeyPadBackLight(rowNumber = %d, backLightOn = %d)", rowNumber,
-                              backLightOn),
-                factory::SetKeyPadBackLight, {.send = {rowNumber * 10u + backLightOn}});
+            return SendBackLight(ftm, rowNumber, backLightOn);
         });
 }
 
@@ -100,18 +120,8 @@ uint8_t TANDEKOR_FTM_GetSliderState(ResourceContext hResourceContext, uint8_t* s
                     if (!IsKolt(iPhoneModelHint) && !AskPhoneModel(hResourceContext, &model))
                         return uint8_t{0};
 
-                    const FormattedText entry("TANDEKOR_FTM_GetSliderState()");
-                    ftm.Start(entry);
                     uint16_t word = 0;
-                    const uint8_t result = ftm.Exchange(factory::GetSliderState, {});
-                    if (result != 0)
-                    {
-                        ftm.Take({&word});
-                        ftm.Completed(entry);
-                    }
-                    else
-                        ftm.NoReply(entry);
-
+                    const uint8_t result = ReadSliderWord(ftm, &word);
                     const SliderRow* row = FindSliderState(PhoneModelOf(model).slider, word);
                     if (row == nullptr)
                     {

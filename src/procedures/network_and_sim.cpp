@@ -77,7 +77,7 @@ bool ForceFtmMode(const PhoneProcedure& phone, bool* restartedSlowly)
 }  // namespace
 
 // A failed clock is reported and passed over. The log is muted only while the phone restarts.
-uint8_t TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, char* iSPC, uint8_t* piSPC_Result)
+uint8_t TANDEKOR_Virtual_SIM(ResourceContext hResourceContext, const char* iSPC, uint8_t* piSPC_Result)
 {
     const PhoneProcedure phone(hResourceContext);
     if (!phone.CheckConnection()

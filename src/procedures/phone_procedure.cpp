@@ -10,7 +10,7 @@ using namespace tandekor;
 namespace
 {
 
-const char* EndingOf(uint8_t iLevel)
+std::string_view EndingOf(uint8_t iLevel)
 {
     switch (iLevel)
     {
@@ -44,7 +44,18 @@ bool PhoneProcedure::StepTrace(uint8_t iLevel, const char* sFormat, ...) const
     return true;
 }
 
-void PhoneProcedure::WriteResult(bool done, const char* name, const char* arguments, ...) const
+bool PhoneProcedure::StepStart(std::string_view name) const
+{
+    if (!IsKnown())
+        return false;
+    LogLine line("\t\t");
+    line.Add(name);
+    line.Add("() start");
+    line.Write(hResourceContext);
+    return true;
+}
+
+void PhoneProcedure::WriteResult(bool done, std::string_view name, const char* arguments, ...) const
 {
     LogLine line("\t");
     line.Add(name);
@@ -52,6 +63,15 @@ void PhoneProcedure::WriteResult(bool done, const char* name, const char* argume
     va_start(values, arguments);
     line.AddFormatted(arguments, values);
     va_end(values);
+    line.Add(EndingOf(done ? STEP_SUCCESS : STEP_FAILURE));
+    line.Write(hResourceContext);
+}
+
+void PhoneProcedure::WritePlainResult(bool done, std::string_view name, const char* arguments) const
+{
+    LogLine line("\t");
+    line.Add(name);
+    line.Add(arguments);
     line.Add(EndingOf(done ? STEP_SUCCESS : STEP_FAILURE));
     line.Write(hResourceContext);
 }

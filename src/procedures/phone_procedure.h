@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #include "channels/boot_box_port.h"
 #include "core/text_log.h"
@@ -38,13 +39,13 @@ public:
     // One step: its start line, the call, the line that says how it ended. The result line is the callee's name with
     // its arguments as a format, filled with the values as they stand after the call.
     template <typename Call, typename... Values>
-    bool Step(const char* name, const char* arguments, Call call, const Values&... values) const
+    bool Step(std::string_view name, const char* arguments, Call call, const Values&... values) const
     {
-        return StepTrace(STEP_START, "\t%s() start", name) && StepWithoutStart(name, arguments, call, values...);
+        return StepStart(name) && StepWithoutStart(name, arguments, call, values...);
     }
 
     template <typename Call, typename... Values>
-    bool StepWithoutStart(const char* name, const char* arguments, Call call, const Values&... values) const
+    bool StepWithoutStart(std::string_view name, const char* arguments, Call call, const Values&... values) const
     {
         if (!IsKnown())
             return false;
@@ -55,7 +56,7 @@ public:
 
     // A step whose call takes the values that are shown, and nothing else after the handle.
     template <typename Function, typename... Values>
-    bool CallStep(const char* name, Function function, const char* arguments, Values... values) const
+    bool CallStep(std::string_view name, Function function, const char* arguments, Values... values) const
     {
         return Step(
             name, arguments, [&] { return function(hResourceContext, values...); }, values...);
@@ -79,15 +80,22 @@ public:
     bool AskPhoneModel(uint32_t* piPhoneModel) const;
 
 private:
+    bool StepStart(std::string_view name) const;
+
     // The result line of a step. Never inlined, so that its buffers are not on the stack during the call of the step.
     template <typename... Values>
-    [[gnu::noinline]] void TraceResult(bool done, const char* name, const char* arguments,
+    [[gnu::noinline]] void TraceResult(bool done, std::string_view name, const char* arguments,
                                        const Values&... values) const
     {
-        WriteResult(done, name, arguments, ShownValue(values).Argument()...);
+        if constexpr (sizeof...(values) == 0)
+            WritePlainResult(done, name, arguments);
+        else
+            WriteResult(done, name, arguments, ShownValue(values).Argument()...);
     }
 
-    void WriteResult(bool done, const char* name, const char* arguments, ...) const;
+    void WriteResult(bool done, std::string_view name, const char* arguments, ...) const;
+    // The same with arguments that are no format.
+    void WritePlainResult(bool done, std::string_view name, const char* arguments) const;
 
     BootBoxPort* const bootBoxPort;
 };

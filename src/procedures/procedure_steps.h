@@ -31,14 +31,16 @@ bool NV_READ_WCDMA_LNA_RANGE_FALL(ResourceContext hResourceContext, uint16_t eNv
                                   uint8_t* piFall2, uint8_t* piFall3);
 bool NV_READ_WCDMA_LNA_RANGE_RISE(ResourceContext hResourceContext, uint16_t eNvBand, uint8_t* piRise1,
                                   uint8_t* piRise2, uint8_t* piRise3);
-bool NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
-                                uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1,
-                                uint8_t* Gsm1900Range2, uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4,
-                                uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2, uint8_t* Gsm1800Range3,
-                                uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2,
-                                uint8_t* Gsm850Range3, uint8_t* Gsm850Range4);
-bool NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1,
-                               int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3, uint8_t* piVsFreq3);
+bool NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, const uint8_t* Gsm900Range1,
+                                const uint8_t* Gsm900Range2, const uint8_t* Gsm900Range3, const uint8_t* Gsm900Range4,
+                                const uint8_t* Gsm1900Range1, const uint8_t* Gsm1900Range2,
+                                const uint8_t* Gsm1900Range3, const uint8_t* Gsm1900Range4,
+                                const uint8_t* Gsm1800Range1, const uint8_t* Gsm1800Range2,
+                                const uint8_t* Gsm1800Range3, const uint8_t* Gsm1800Range4, const uint8_t* Gsm850Range1,
+                                const uint8_t* Gsm850Range2, const uint8_t* Gsm850Range3, const uint8_t* Gsm850Range4);
+bool NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8_t eNvBand, int16_t iOffset1,
+                               const uint8_t* piVsFreq1, int16_t iOffset2, const uint8_t* piVsFreq2, int16_t iOffset3,
+                               const uint8_t* piVsFreq3);
 
 // Test calls. bInitSession 1 opens the session first; a bCloseControl that is not 0 closes it.
 bool FTM_GSM_BER_StartCall(ResourceContext hResourceContext, uint8_t bInitSession, uint16_t iChannel, uint8_t iBand,

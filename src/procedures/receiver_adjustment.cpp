@@ -33,17 +33,19 @@ uint8_t TANDEKOR_RX_GSM_Adjust(ResourceContext hResourceContext, uint8_t* cBin3,
 
 // The two direct NV operations hand their status to the caller and go on whatever it is.
 uint8_t TANDEKOR_RX_WCDMA_Adjust(ResourceContext hResourceContext, uint8_t iLNArange, int16_t iDvgaExpectedRX_AGC,
-                                 void* piDVGAoffsetValue, uint16_t iWriteItemID, uint8_t* pWriteItemData,
+                                 void* piDVGAoffsetValue, uint16_t iWriteItemID, const uint8_t* pWriteItemData,
                                  int32_t iWriteLength, uint16_t* piWriteStatus, uint16_t eVgaNvBand, uint16_t iOffset,
-                                 uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1, uint8_t* piFall2,
+                                 const uint8_t* piVsFreq, uint16_t eFallNvBand, uint8_t* piFall1, uint8_t* piFall2,
                                  uint8_t* piFall3, uint16_t iReadItemID, uint8_t* pReadItemData, int32_t iReadLength,
                                  uint16_t* piReadStatus, uint16_t eRiseNvBand, uint8_t* piRise1, uint8_t* piRise2,
                                  uint8_t* piRise3, uint16_t iLNAindex, int16_t iLnaExpectedRX_AGC,
                                  int16_t* piLNAoffsetValue)
 {
     const PhoneProcedure phone(hResourceContext);
+    if (!phone.CheckConnection())
+        return 0;
     const uint8_t firstOfTable = piVsFreq == nullptr ? uint8_t{0} : piVsFreq[0];
-    return phone.CheckConnection() && phone.TxOff() && phone.SetLnaRange(iLNArange)
+    return phone.TxOff() && phone.SetLnaRange(iLNArange)
            && phone.Step(
                "QLIB_FTM_GET_DVGA_OFFSET", "(iExpectedRX_AGC = %d)",
                [&] { return QLIB_FTM_GET_DVGA_OFFSET(hResourceContext, iDvgaExpectedRX_AGC, piDVGAoffsetValue); },

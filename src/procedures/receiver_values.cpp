@@ -34,12 +34,14 @@ using VsFreq = ItemOf<bandTableSize>;
 
 // A failure before the flush leaves in the host library's queue what it has taken so far.
 uint8_t TANDEKOR_Write_RX_Adjustment_Values(
-    ResourceContext hResourceContext, uint8_t bStartBatchMode, uint8_t* Gsm900Range1, uint8_t* Gsm900Range2,
-    uint8_t* Gsm900Range3, uint8_t* Gsm900Range4, uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2,
-    uint8_t* Gsm1900Range3, uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
-    uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1, uint8_t* Gsm850Range2, uint8_t* Gsm850Range3,
-    uint8_t* Gsm850Range4, uint8_t eNvBand, int16_t iOffset1, uint8_t* piVsFreq1, int16_t iOffset2, uint8_t* piVsFreq2,
-    int16_t iOffset3, uint8_t* piVsFreq3, uint16_t eVgaNvBand, uint16_t iOffset, uint8_t* piVsFreq)
+    ResourceContext hResourceContext, uint8_t bStartBatchMode, const uint8_t* Gsm900Range1, const uint8_t* Gsm900Range2,
+    const uint8_t* Gsm900Range3, const uint8_t* Gsm900Range4, const uint8_t* Gsm1900Range1,
+    const uint8_t* Gsm1900Range2, const uint8_t* Gsm1900Range3, const uint8_t* Gsm1900Range4,
+    const uint8_t* Gsm1800Range1, const uint8_t* Gsm1800Range2, const uint8_t* Gsm1800Range3,
+    const uint8_t* Gsm1800Range4, const uint8_t* Gsm850Range1, const uint8_t* Gsm850Range2, const uint8_t* Gsm850Range3,
+    const uint8_t* Gsm850Range4, uint8_t eNvBand, int16_t iOffset1, const uint8_t* piVsFreq1, int16_t iOffset2,
+    const uint8_t* piVsFreq2, int16_t iOffset3, const uint8_t* piVsFreq3, uint16_t eVgaNvBand, uint16_t iOffset,
+    const uint8_t* piVsFreq)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()
@@ -79,12 +81,15 @@ uint8_t TANDEKOR_Write_RX_Adjustment_Values(
            && phone.CallStep("TANDEKOR_DIAG_NV_WRITE_FLUSH_BATCH_QUEUE", DIAG_NV_WRITE_FLUSH_BATCH_QUEUE, "()");
 }
 
-bool tandekor::NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, uint8_t* Gsm900Range1,
-                                          uint8_t* Gsm900Range2, uint8_t* Gsm900Range3, uint8_t* Gsm900Range4,
-                                          uint8_t* Gsm1900Range1, uint8_t* Gsm1900Range2, uint8_t* Gsm1900Range3,
-                                          uint8_t* Gsm1900Range4, uint8_t* Gsm1800Range1, uint8_t* Gsm1800Range2,
-                                          uint8_t* Gsm1800Range3, uint8_t* Gsm1800Range4, uint8_t* Gsm850Range1,
-                                          uint8_t* Gsm850Range2, uint8_t* Gsm850Range3, uint8_t* Gsm850Range4)
+bool tandekor::NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, const uint8_t* Gsm900Range1,
+                                          const uint8_t* Gsm900Range2, const uint8_t* Gsm900Range3,
+                                          const uint8_t* Gsm900Range4, const uint8_t* Gsm1900Range1,
+                                          const uint8_t* Gsm1900Range2, const uint8_t* Gsm1900Range3,
+                                          const uint8_t* Gsm1900Range4, const uint8_t* Gsm1800Range1,
+                                          const uint8_t* Gsm1800Range2, const uint8_t* Gsm1800Range3,
+                                          const uint8_t* Gsm1800Range4, const uint8_t* Gsm850Range1,
+                                          const uint8_t* Gsm850Range2, const uint8_t* Gsm850Range3,
+                                          const uint8_t* Gsm850Range4)
 {
     const PhoneProcedure phone(hResourceContext);
     if (!phone.CheckConnection())
@@ -102,8 +107,8 @@ bool tandekor::NV_WRITE_GSM_RX_GAIN_RANGE(ResourceContext hResourceContext, uint
 }
 
 bool tandekor::NV_WRITE_WCDMA_LNA_OFFSET(ResourceContext hResourceContext, uint8_t eNvBand, int16_t iOffset1,
-                                         uint8_t* piVsFreq1, int16_t iOffset2, uint8_t* piVsFreq2, int16_t iOffset3,
-                                         uint8_t* piVsFreq3)
+                                         const uint8_t* piVsFreq1, int16_t iOffset2, const uint8_t* piVsFreq2,
+                                         int16_t iOffset3, const uint8_t* piVsFreq3)
 {
     const PhoneProcedure phone(hResourceContext);
     if (!phone.CheckConnection())

@@ -8,9 +8,9 @@
 using namespace tandekor;
 
 uint8_t TANDEKOR_Reduced_Signalling_HSDPA(ResourceContext hResourceContext, uint8_t iReconfigBitmask,
-                                          uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes, uint8_t* aiCodes,
+                                          uint16_t iHS_PDSCH_RadioLink_PCS, uint8_t iNumCodes, const uint8_t* aiCodes,
                                           uint16_t iH_RNTI, uint8_t iNum_HARQ_Processes, uint8_t bMemPartitionValid,
-                                          void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset,
+                                          const void* aiMemPartitionInfo, uint8_t iCPICH_PowerOffset,
                                           uint8_t iCQI_FeedbackCycle, uint8_t iCQI_RepetitionFactor, uint8_t iDeltaCQI,
                                           uint8_t iDeltaACK, uint8_t iDeltaNACK, uint8_t iACK_NACK_RepetitionFactor,
                                           uint8_t* pHSDPA_BER_State)
@@ -97,7 +97,7 @@ bool tandekor::FTM_EGPRS_BER_StartCall(ResourceContext hResourceContext, uint8_t
                              "(iChannel = %d, iBand = %c)", iChannel, iBand);
 }
 
-uint8_t TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits, uint8_t* aiIMSI)
+uint8_t TANDEKOR_StartCall(ResourceContext hResourceContext, uint8_t iNumDigits, const uint8_t* aiIMSI)
 {
     const PhoneProcedure phone(hResourceContext);
     return phone.CheckConnection()

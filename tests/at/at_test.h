@@ -7,20 +7,6 @@
 namespace tandekor::test
 {
 
-// Out-values as the bytes that they have in the caller's memory.
-template <typename Number>
-Bytes InMemory(const std::vector<Number>& numbers)
-{
-    const auto* start = reinterpret_cast<const uint8_t*>(numbers.data());
-    return {start, start + numbers.size() * sizeof(Number)};
-}
-template <typename... Numbers>
-Bytes U32(Numbers... numbers)
-{
-    return InMemory(std::vector{static_cast<uint32_t>(numbers)...});
-}
-inline Bytes U16(uint16_t number) { return InMemory(std::vector{number}); }
-
 // The bytes of a text with the NUL behind it.
 inline Bytes Text(const std::string& text) { return Ascii(text + '\0'); }
 
@@ -36,8 +22,8 @@ std::string Dense(const std::string& head, const std::string& entry);
 struct SentCommand
 {
     Call call;
-    std::string request;  // without the carriage return and the NUL behind it
-    std::string log;
+    std::string request;   // without AT, and without the carriage return and the NUL behind it
+    std::string log = {};  // behind TANDEKOR_AT_; in parentheses only what follows Get_CMUT or Set_CMUT; () if empty
     uint32_t timeoutMs = 3000;
     std::vector<Bytes> writtenOnFailure = {};
 };
@@ -56,17 +42,15 @@ struct AtTable
     std::vector<ReadReply> replies;
     std::vector<std::string> dense = {};
 };
-AtTable SingleValues();
-AtTable StructuredQueries();
-AtTable TextParameters();
-AtTable Messages();
+AtTable ValueCommands();
+AtTable TextCommands();
 std::vector<AtTable> AllAtCommands();
 
 class AtTest : public BenchTest
 {
 protected:
     // The call succeeds with this status, and writes these bytes and no more.
-    void ExpectOuts(const Call& call, uint16_t status, const std::vector<Bytes>& written);
+    void ExpectOuts(const Call& call, uint16_t status, std::vector<Bytes> written);
 };
 
 }  // namespace tandekor::test

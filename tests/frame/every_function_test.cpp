@@ -1,11 +1,13 @@
-// What holds for every function that goes through a channel, whatever it does.
+// What holds for every function, whatever it does: an unknown handle touches nothing, no reply leads a reader out of
+// its buffers, and a call that was disturbed is not felt by the next one.
 #include <pthread.h>
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 #include "tests/at/at_test.h"
-#include "tests/ftm/ftm_test.h"
+#include "tests/support/every_function.h"
 
 namespace tandekor::test
 {
@@ -13,50 +15,64 @@ namespace tandekor::test
 namespace
 {
 
-// Functions that send over the channel of AT commands.
-std::vector<Call> RawCalls()
+struct Course
 {
-    std::vector<Call> calls = {With(TANDEKOR_OBEX_2_AT),
-                               With(TANDEKOR_OBEX_ListDir, {"a\\", Out{64}, Bytes{64, 0, 0, 0}}),
-                               With(TANDEKOR_OBEX_GetFile, {"", "f", ""}),
-                               With(TANDEKOR_OBEX_SendFile, {"", "f", ""}),
-                               With(TANDEKOR_OBEX_DeleteFile, {"", "f"}),
-                               With(TANDEKOR_OBEX_CreateFolder, {"", "f"}),
-                               With(TANDEKOR_OBEX_CopyFile, {"a", "f", "b"}),
-                               With(TANDEKOR_OBEX_MoveFile, {"a", "f", "b"}),
-                               With(TANDEKOR_OBEX_SetAttr, {"", "f", 1, 1}),
-                               With(TANDEKOR_OBEX_FreeSpaceCheck)};
-    for (const AtTable& table : AllAtCommands())
-    {
-        for (const SentCommand& command : table.commands)
-            calls.push_back(command.call);
-    }
-    return calls;
+    CallResult result;
+    std::vector<std::string> log;
+    std::vector<std::string> calls;
+};
+
+Bytes Noise()
+{
+    Bytes bytes(4096);
+    uint32_t state = 1;
+    for (uint8_t& byte : bytes)
+        byte = static_cast<uint8_t>((state = state * 1664525 + 1013904223) >> 24);
+    return bytes;
 }
 
-std::vector<Call> AllCalls()
+// In the place of what the phone replies.
+const std::vector<simulator::Reply>& WrongReplies()
 {
-    std::vector<Call> calls = RawCalls();
-    for (const Call& call : FtmCalls())
-        calls.push_back(call);
-    return calls;
+    static const std::vector<simulator::Reply> replies = []
+    {
+        std::vector<simulator::Reply> all;
+        for (const Bytes& bytes :
+             {Bytes{}, Bytes{0xA0}, Bytes(4096, '7'), Bytes(4096, 0xA0), Bytes(4096, 0x90), Noise()})
+        {
+            all.push_back({bytes, 1, {}});
+            all.push_back({bytes, 1, 0xFFFF});
+            all.push_back({bytes, 0, {}});
+        }
+        return all;
+    }();
+    return replies;
+}
+
+// Addresses of buffers differ from run to run.
+std::vector<std::string> WithoutDigits(std::vector<std::string> log)
+{
+    for (std::string& text : log)
+        std::erase_if(text, [](char character) { return character >= '0' && character <= '9'; });
+    return log;
+}
+
+// The functions that talk to the phone by AT commands and OBEX packets.
+bool IsRaw(const Function& function)
+{
+    return function.family == std::string("at") || function.family == std::string("obex");
 }
 
 class EveryFunctionTest : public BenchTest
 {
 protected:
-    static void ExpectNothingFrom(const std::vector<Call>& calls, ResourceContext resourceContext)
+    static void ExpectNothingFrom(const Function& function, ResourceContext resourceContext)
     {
-        simulator::ForgetCalls();
-        for (size_t i = 0; i < calls.size(); ++i)
-        {
-            const CallResult call = calls[i](resourceContext);
-            EXPECT_EQ(call.result, 0) << "call " << i;
-            EXPECT_EQ(call.written, std::vector<bool>(call.outs.size())) << "call " << i;
-        }
-        EXPECT_TRUE(simulator::Calls().empty());
-        EXPECT_TRUE(simulator::TheClock().sleeps.empty());
-        EXPECT_TRUE(Log().empty());
+        simulator::ForgetTimeline();
+        const CallResult call = CallOf(function, {})(resourceContext);
+        EXPECT_EQ(call.result, 0) << function.name;
+        EXPECT_EQ(call.written, std::vector<bool>(call.outs.size())) << function.name;
+        EXPECT_TRUE(simulator::Timeline().empty()) << function.name << ": " << simulator::Timeline().front();
     }
 
     void ExpectGuardsHold(const Call& call, const simulator::Reply& reply)
@@ -64,6 +80,57 @@ protected:
         simulator::ForgetLog();
         simulator::RepeatReply(reply);
         EXPECT_TRUE(call(handle).guardsIntact) << Log().front() << " on " << ToHex(reply.bytes).substr(0, 200);
+    }
+
+    // An open boot box port belongs to the connection.
+    Course Make(
+        const Call& call, const std::function<void()>& disturb = [] {})
+    {
+        simulator::ResetPhone();
+        simulator::TheClock() = {};
+        if (simulator::TheBootBox().open)
+        {
+            TANDEKOR_DisconnectServer(handle);
+            TANDEKOR_ConnectServer(comPort);
+        }
+        TANDEKOR_SetLibraryMode(0);
+        simulator::ForgetCalls();
+        simulator::ThePhone().mode = simulator::Mode::Ftm;
+        disturb();
+        Course run{call(handle), WithoutDigits(Log()), {}};
+        for (const std::string& text : simulator::Calls())
+            run.calls.push_back(text.substr(0, text.find('(')));
+        return run;
+    }
+
+    // Of some arguments those with which the function succeeds, if it does, and calls most.
+    Call BestCall(const Function& function)
+    {
+        std::optional<Call> best;
+        std::pair<bool, size_t> most;
+        for (const int64_t number : {1, 0, 2, 4, 5, 7, 8, 15})
+        {
+            for (const auto& texts :
+                 {std::vector<std::string>{"", "contrast.bmp"}, {"Pictures\\Holiday\\", "beach.jpg"}})
+            {
+                const Call call = CallOf(function, {{number}, texts});
+                const Course run = Make(call);
+                const std::pair<bool, size_t> reached(run.result.result != 0, run.calls.size());
+                if (!best || reached > most)
+                    best = call, most = reached;
+            }
+        }
+        return *best;
+    }
+
+    void ExpectRecovery(const Call& call, const Course& undisturbed, const std::function<void()>& disturb)
+    {
+        EXPECT_TRUE(Make(call, disturb).result.guardsIntact);
+        const Course after = Make(call);
+        EXPECT_EQ(after.result.result, undisturbed.result.result);
+        EXPECT_EQ(after.result.outs, undisturbed.result.outs);
+        EXPECT_EQ(after.log, undisturbed.log);
+        EXPECT_EQ(after.calls, undisturbed.calls);
     }
 };
 
@@ -93,15 +160,19 @@ size_t StackOf(std::function<void()> run)
 
 TEST_F(EveryFunctionTest, UnknownHandleTouchesNothing)
 {
-    ExpectNothingFrom(AllCalls(), unknownHandle);
-    ExpectNothingFrom({With(TANDEKOR_Phone_Model), With(TANDEKOR_FTM_TO_ONLINE)}, unknownHandle);
+    for (const Function& function : EveryFunction())
+        ExpectNothingFrom(function, unknownHandle);
 }
 
 TEST_F(EveryFunctionTest, QpstModeShutsOutAtAndObexAndNothingElse)
 {
     simulator::ThePhone().mode = simulator::Mode::Ftm;
     TANDEKOR_SetLibraryMode(1);
-    ExpectNothingFrom(RawCalls(), handle);
+    for (const Function& function : EveryFunction())
+    {
+        if (IsRaw(function))
+            ExpectNothingFrom(function, handle);
+    }
     EXPECT_EQ(With(TANDEKOR_FTM_GET_HW_ID)(handle).result, 1);
     EXPECT_EQ(With(TANDEKOR_Phone_Model)(handle).result, 1);
     TANDEKOR_SetLibraryMode(0);
@@ -124,7 +195,12 @@ TEST_F(EveryFunctionTest, NoReplyLeadsAReaderOutOfItsArea)
                 ExpectGuardsHold(command.call, {Ascii(text), 1, {}});
         }
     }
-    const std::vector<Call> calls = AllCalls();
+    std::vector<Call> calls;
+    for (const Function& function : EveryFunction())
+    {
+        if (IsRaw(function) || function.family == std::string("ftm"))
+            calls.push_back(CallOf(function, {{7}}));
+    }
     for (const char fill : {'\0', '\xFF', '7', 'A', ',', ':', '"', '\r'})
     {
         const Bytes area(4096, static_cast<uint8_t>(fill));
@@ -141,16 +217,39 @@ TEST_F(EveryFunctionTest, NeedsNoMoreThan32KilobytesOfStack)
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || defined(__clang__)
     GTEST_SKIP() << "the frames of sanitizers are larger";
 #endif
-    simulator::ThePhone().mode = simulator::Mode::Ftm;
     const size_t ofTheThread = StackOf([] {});
-    std::vector<Call> calls = AllCalls();
-    calls.insert(calls.end(), {With(TANDEKOR_Virtual_SIM, {"000000"}), With(TANDEKOR_SetCWPowerBluetooth, {1}),
-                               With(TANDEKOR_NetworkAndChannelPreselection, {2, 3, 4}),
-                               With(TANDEKOR_BootBox_SwitchMobileOn, {4, 1}), With(TANDEKOR_AudioTest, {15, 1})});
-    for (const Call& call : calls)
+    for (const Function& function : EveryFunction())
     {
-        simulator::ForgetLog();
-        EXPECT_LE(StackOf([&] { call(handle); }) - ofTheThread, 32 * 1024) << Log().front();
+        const Call call = BestCall(function);
+        EXPECT_LE(StackOf([&] { Make(call); }) - ofTheThread, 32 * 1024) << function.name;
+    }
+}
+
+TEST_F(EveryFunctionTest, NoDisturbedHostCallIsFeltByTheNextCallOfTheFunction)
+{
+    for (const Function& function : EveryFunction())
+    {
+        SCOPED_TRACE(function.name);
+        const Call call = BestCall(function);
+        const Course undisturbed = Make(call);
+        for (size_t n = 1; n <= undisturbed.calls.size() && !HasFailure(); ++n)
+        {
+            const int number = static_cast<int>(n);
+            SCOPED_TRACE("call " + std::to_string(n) + ", " + undisturbed.calls[n - 1]);
+            ExpectRecovery(call, undisturbed, [number] { simulator::RefuseAnyCall(number); });
+            ExpectRecovery(call, undisturbed, [number] { simulator::RefuseCallsFrom("", number); });
+            const std::string& operation = undisturbed.calls[n - 1];
+            if (operation != "QLIB_SendRAW" && operation != "QLIB_SendSync")
+                continue;
+            const auto ofThisKind
+                = std::count(undisturbed.calls.begin(), undisturbed.calls.begin() + number, operation);
+            for (const simulator::Reply& reply : WrongReplies())
+            {
+                const auto answer = [&reply] { simulator::QueueReply(reply); };
+                ExpectRecovery(call, undisturbed,
+                               [&] { simulator::BeforeCall(operation, static_cast<int>(ofThisKind), answer); });
+            }
+        }
     }
 }
 

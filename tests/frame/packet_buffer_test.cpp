@@ -12,37 +12,31 @@ namespace
 {
 
 // A host operation that keeps what it was given and answers as it was told.
-struct PlayedHost
-{
-    std::vector<uint32_t> numbers;  // handle, capacity, time limit, last byte of the request area
-    Bytes request, response;
-    uint8_t result = 1;
-    uint16_t claimedLength = 4096;
-};
-PlayedHost host;
+Bytes request, response;
+Numbers numbers;  // handle, capacity, time limit, last byte of the request area
+uint8_t result;
+uint16_t claimedLength;
 
-uint8_t PlayedExchange(ResourceContext handle, uint16_t requestLength, uint8_t* request, uint16_t* responseLength,
-                       uint8_t* response, uint32_t timeoutMs)
+uint8_t PlayedExchange(ResourceContext handle, uint16_t requestLength, uint8_t* sent, uint16_t* responseLength,
+                       uint8_t* area, uint32_t timeoutMs)
 {
-    host.numbers = {handle, *responseLength, timeoutMs, request[4095]};
-    host.request.assign(request, request + requestLength);
-    std::copy(host.response.begin(), host.response.end(), response);
-    *responseLength = host.claimedLength;
-    return host.result;
+    numbers = {handle, *responseLength, timeoutMs, sent[4095]};
+    request.assign(sent, sent + requestLength);
+    std::copy(response.begin(), response.end(), area);
+    *responseLength = claimedLength;
+    return result;
 }
 
 class PacketBufferTest : public ::testing::Test
 {
 protected:
-    PacketBufferTest() { host = {}; }
-
-    uint8_t Exchange() { return buffer.Exchange(PlayedExchange, 77, 3000); }
-
-    void Receive(const std::string& response)
+    uint8_t Exchange(uint8_t hostResult, const Bytes& hostResponse, int claimed)
     {
-        host.response = Hex(response);
-        host.claimedLength = static_cast<uint16_t>(host.response.size());
-        Exchange();
+        numbers.clear();
+        result = hostResult;
+        response = hostResponse;
+        claimedLength = static_cast<uint16_t>(claimed);
+        return buffer.Exchange(PlayedExchange, 77, 68535);
     }
 
     PacketBuffer buffer;
@@ -57,47 +51,44 @@ TEST_F(PacketBufferTest, SendsAppendsInLittleEndianOrder)
     buffer.AddDword(0x6789ABCD);
     buffer.AddBytes("xyz", 3);
     buffer.AddBytes(nullptr, 0);
-    EXPECT_EQ(buffer.Exchange(PlayedExchange, 77, 68535), 1);
-    EXPECT_EQ(ToHex(host.request), "01 45 23 CD AB 89 67 78 79 7A");
-    EXPECT_EQ(host.numbers, (std::vector<uint32_t>{77, 4096, 68535, 0xAA}));
+    EXPECT_EQ(Exchange(1, {}, 0), 1);
+    EXPECT_EQ(ToHex(request), "01 45 23 CD AB 89 67 78 79 7A");
+    EXPECT_EQ(numbers, (Numbers{77, 4096, 68535, 0xAA}));
 }
 
 TEST_F(PacketBufferTest, AppendThatDoesNotFitStoresNothingAndTheRequestIsNotSent)
 {
     const Bytes source(4096, 0x11);
-    const std::function<void()> appends[]
-        = {[&] { buffer.AddByte(0x22); }, [&] { buffer.AddWord(0x2222); }, [&] { buffer.AddDword(0x22222222); },
-           [&] { buffer.AddBytes(source.data(), 4096); }};
-    const size_t sizes[] = {1, 2, 4, 4096};
-    for (size_t i = 0; i < std::size(sizes); ++i)
+    const std::pair<size_t, std::function<void()>> appends[] = {{1, [&] { buffer.AddByte(0x22); }},
+                                                                {2, [&] { buffer.AddWord(0x2222); }},
+                                                                {4, [&] { buffer.AddDword(0x22222222); }},
+                                                                {4096, [&] { buffer.AddBytes(source.data(), 4096); }}};
+    for (const auto& [size, append] : appends)
     {
         for (const size_t tooMany : {0U, 1U})
         {
-            const size_t before = 4096 - sizes[i] + tooMany;
+            const size_t before = 4096 - size + tooMany;
             buffer.Reset();
             buffer.AddBytes(source.data(), before);
-            appends[i]();
-            host.numbers.clear();
-            EXPECT_EQ(buffer.RequestLength(), tooMany ? before : 4096) << sizes[i];
-            EXPECT_EQ(Exchange(), tooMany ? 0 : 1) << sizes[i];
-            EXPECT_EQ(host.numbers.empty(), tooMany == 1) << sizes[i];
+            append();
+            EXPECT_EQ(buffer.RequestLength(), tooMany ? before : 4096) << size;
+            EXPECT_EQ(Exchange(1, {}, 4096), tooMany ? 0 : 1) << size;
+            EXPECT_EQ(numbers.empty(), tooMany == 1) << size;
         }
         EXPECT_EQ(buffer.ResponseLength(), 0) << "nothing of an earlier reply is left to be read";
     }
     buffer.Reset();
-    EXPECT_EQ(Exchange(), 1) << "the next request is sent again";
+    EXPECT_EQ(Exchange(1, {}, 0), 1) << "the next request is sent again";
 }
 
 TEST_F(PacketBufferTest, TakesTheResponseLengthWhateverTheResultButNoMoreThanTheArea)
 {
-    for (const uint8_t result : Bytes{0, 1})
+    for (const int claimed : {0, 5, 4096, 4097, 65535})
     {
-        host.result = result;
-        for (const int claimed : {0, 5, 4096, 4097, 65535})
+        for (const uint8_t hostResult : Bytes{0, 1})
         {
             buffer.Reset();
-            host.claimedLength = static_cast<uint16_t>(claimed);
-            EXPECT_EQ(Exchange(), result);
+            EXPECT_EQ(Exchange(hostResult, {}, claimed), hostResult);
             EXPECT_EQ(buffer.ResponseLength(), std::min(claimed, 4096));
         }
     }
@@ -109,13 +100,12 @@ TEST_F(PacketBufferTest, PopsTakeFieldsFromTheEndOrChangeNothing)
     uint16_t word = 0;
     uint32_t dword = 0;
     GuardedBuffer bytes(3);
-    Receive("01 02 0A 0B 0C 78 56 34 92 03 04 05");
+    Exchange(1, Hex("01 02 0A 0B 0C 78 56 34 92 03 04 05"), 12);
     EXPECT_TRUE(buffer.PopByte(&byte) && byte == 0x05);
     EXPECT_TRUE(buffer.PopWord(&word) && word == 0x0403);
     EXPECT_TRUE(buffer.PopDword(&dword) && dword == 0x92345678);
     EXPECT_TRUE(buffer.PopBytes(bytes.Data(), 3));
-    EXPECT_FALSE(buffer.PopDword(&dword));
-    EXPECT_FALSE(buffer.PopBytes(bytes.Data(), 3));
+    EXPECT_FALSE(buffer.PopDword(&dword) || buffer.PopBytes(bytes.Data(), 3));
     EXPECT_TRUE(buffer.PopByte(&byte) && byte == 0x02);
     EXPECT_FALSE(buffer.PopWord(&word));
     EXPECT_TRUE(buffer.PopByte(&byte) && byte == 0x01);
@@ -130,7 +120,7 @@ TEST_F(PacketBufferTest, ResetRefillsTheResponseAndLeavesTheCursor)
 {
     uint8_t byte = 0;
     uint32_t dword = 0;
-    Receive("01 02 03 04");
+    Exchange(1, Hex("01 02 03 04"), 4);
     buffer.Reset();
     EXPECT_TRUE(buffer.PopDword(&dword) && dword == 0xBBBBBBBB);
     EXPECT_FALSE(buffer.PopByte(&byte));

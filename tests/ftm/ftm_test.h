@@ -18,8 +18,8 @@ constexpr int ownProcedure = -1;
 struct FtmRequest
 {
     Call call;
-    std::string bytes;  // of the last request, if there are two
-    std::string entry;
+    std::string bytes;              // of the last request, if there are two; behind 4B 0B 00 80, which most begin with
+    std::string entry;              // without TANDEKOR_ in front of FTM_, LTM_ and GPIO_
     int valueBytes = ownProcedure;  // behind the status word in the reply to a standard command
     uint32_t timeoutMs = 3000;
     std::string closing = {};  // what the closing texts repeat, where it is not the entry
@@ -27,31 +27,25 @@ struct FtmRequest
 };
 
 // The requests by subject, each function at least once.
-std::vector<FtmRequest> LowLevelRequests();
-std::vector<FtmRequest> PhoneDataRequests();
-std::vector<FtmRequest> FmRadioRequests();
-std::vector<FtmRequest> DisplayAndCameraRequests();
+std::vector<FtmRequest> DataAccessRequests();
+std::vector<FtmRequest> DisplayCameraAndRadioRequests();
 
 std::vector<Call> FtmCalls();
-
-// A call whose non-constant arguments are read alone.
-Call ReadOnly(const Call& call);
-
-// Replies other than fields behind a header: an exchange that fails, which may deliver bytes behind the mark, and one
-// that gives nothing.
-constexpr char silence[] = "!";
-constexpr char nothing[] = "nothing";
 
 constexpr char done[] = " - Completed successfully\n";
 constexpr char noReply[] = " - SendSync() fail (error code = 187)";
 
+// What a call makes of replies. These are fields behind a header, with a semicolon between two of them; "= 01 02" is
+// a whole reply, "!" an exchange that fails, and may deliver bytes behind the mark. Each serves one exchange.
+// Of the log, what comes behind the entry text: " ..." is an ending behind the entry text, with the outs where that
+// shows what they were; "(..." is text behind the function's name.
 struct Answered
 {
     Call call;
-    Texts replies;
+    std::string replies;
     uint8_t result;
     Numbers outs;
-    Texts log;  // behind the entry text
+    Texts log;
 };
 
 class FtmTest : public BenchTest
@@ -61,7 +55,6 @@ protected:
 
     // The phone that answers with a header, whose last word is 9, and these fields.
     static void RepliesWith(const std::string& fields);
-    // Each call makes as many exchanges as it has replies.
     void ExpectAnswers(const std::vector<Answered>& rows);
 };
 

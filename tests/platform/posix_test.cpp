@@ -1,4 +1,4 @@
-// The machine's own clock, files and serial port. Calls of the system are wrapped: the port names of /dev lead to a
+// The machine's own files and serial port. Calls of the system are wrapped: the port names of /dev lead to a
 // folder of the test, and what no pseudo terminal or file does here is played.
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -11,14 +11,12 @@
 #include <cerrno>
 #include <cstdarg>
 #include <cstdlib>
-#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
 
-#include "platform/clock.h"
 #include "platform/host_file.h"
 #include "platform/serial_port.h"
 
@@ -116,32 +114,6 @@ protected:
 };
 
 }  // namespace
-
-TEST(NativeClockTest, CountsTheMillisecondsOfAWait)
-{
-    const uint32_t start = TickCount();
-    Sleep(20);
-    const uint32_t passed = TickCount() - start;
-    EXPECT_GE(passed, 20U);
-    EXPECT_LT(passed, 10'000U) << "also on a busy machine";
-}
-
-TEST(NativeClockTest, ShowsTheCalendarInUtc)
-{
-    std::time_t before = 0;
-    UtcTime now{};
-    do
-    {
-        before = std::time(nullptr);
-        now = CurrentUtcTime();
-    } while (std::time(nullptr) != before);
-    char expected[40] = {};
-    std::strftime(expected, sizeof expected, "%Y %m %d %H %M %S", std::gmtime(&before));
-    char shown[40] = {};
-    std::snprintf(shown, sizeof shown, "%04u %02u %02u %02u %02u %02u", now.year, now.month, now.day, now.hour,
-                  now.minute, now.second);
-    EXPECT_STREQ(shown, expected);
-}
 
 TEST_F(NativeSerialPortTest, IsOpenedForOneUserAtATimeWithNothingThatMovesALineByItself)
 {

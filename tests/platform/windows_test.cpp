@@ -1,4 +1,4 @@
-// The machine's own clock, files and serial port on Windows. The entries of the import table below lead the calls that
+// The machine's own files and serial port on Windows. The entries of the import table below lead the calls that
 // concern a port to a played one.
 #define WIN32_LEAN_AND_MEAN
 #include <gtest/gtest.h>
@@ -6,13 +6,11 @@
 #include <winioctl.h>
 
 #include <cstring>
-#include <ctime>
 #include <filesystem>
 #include <initializer_list>
 #include <string>
 #include <vector>
 
-#include "platform/clock.h"
 #include "platform/host_file.h"
 #include "platform/serial_port.h"
 
@@ -124,33 +122,6 @@ protected:
 
 }  // namespace
 
-TEST(NativeClockTest, CountsTheMillisecondsOfAWait)
-{
-    const uint32_t start = TickCount();
-    Sleep(50);
-    const uint32_t passed = TickCount() - start;
-    EXPECT_GE(passed, 50U - 16U) << "the counter moves in steps of up to 16 ms";
-    EXPECT_LT(passed, 10'000U) << "also on a busy machine";
-}
-
-TEST(NativeClockTest, ShowsTheCalendarInUtc)
-{
-    std::time_t before = 0;
-    UtcTime now{};
-    do
-    {
-        before = std::time(nullptr);
-        now = CurrentUtcTime();
-    } while (std::time(nullptr) != before);
-    const std::tm* const expected = std::gmtime(&before);
-    EXPECT_EQ(now.year, expected->tm_year + 1900);
-    EXPECT_EQ(now.month, expected->tm_mon + 1);
-    EXPECT_EQ(now.day, expected->tm_mday);
-    EXPECT_EQ(now.hour, expected->tm_hour);
-    EXPECT_EQ(now.minute, expected->tm_min);
-    EXPECT_EQ(now.second, expected->tm_sec);
-}
-
 TEST_F(NativeSerialPortTest, IsOpenedByItsNumberForOneUserAlone)
 {
     for (const uint16_t number : std::initializer_list<uint16_t>{1, 9, 10, 65535})
@@ -201,18 +172,6 @@ TEST_F(NativeSerialPortTest, ReportsWhatTheSystemRefuses)
     EXPECT_EQ(OpenSerialPort(4), invalidSerialHandle);
 }
 
-TEST_F(NativeHostFileTest, IsWrittenAppendedToAndReadFromAnyPosition)
-{
-    EXPECT_TRUE(AppendToFile(path, "old and ", 8));
-    EXPECT_TRUE(OverwriteFile(path, "ab\r\n", 4));
-    EXPECT_TRUE(AppendToFile(path, "\x1A\n", 2));
-    EXPECT_TRUE(FileSize(path, &size));
-    EXPECT_EQ(size, 6U);
-    EXPECT_EQ(ReadFromFile(path, 1, bytes, sizeof bytes), 5U);
-    EXPECT_EQ(std::memcmp(bytes, "b\r\n\x1A\n", 5), 0);
-    EXPECT_EQ(ReadFromFile(path, 6, bytes, sizeof bytes), 0U);
-}
-
 TEST_F(NativeHostFileTest, MayBeLargerThanFourGigabytes)
 {
     constexpr uint64_t position = (uint64_t{1} << 32) + 3;
@@ -230,12 +189,8 @@ TEST_F(NativeHostFileTest, MayBeLargerThanFourGigabytes)
     EXPECT_STREQ(bytes, "nd");
 }
 
-TEST_F(NativeHostFileTest, ThatIsMissingOrHeldByAnotherIsRefused)
+TEST_F(NativeHostFileTest, ThatIsHeldByAnotherIsRefused)
 {
-    EXPECT_FALSE(FileSize(path, &size));
-    EXPECT_EQ(ReadFromFile(path, 0, bytes, sizeof bytes), 0U);
-    EXPECT_FALSE(OverwriteFile((file + R"(\no\folder)").c_str(), "ab", 2));
-
     EXPECT_TRUE(OverwriteFile(path, "ab", 2));
     const HANDLE held = ::CreateFileA(path, GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     EXPECT_EQ(ReadFromFile(path, 0, bytes, sizeof bytes), 0U);

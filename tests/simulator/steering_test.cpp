@@ -1,5 +1,7 @@
-// How the simulated phone is steered: by the lines of scripts, by model, and what it then does as a phone does.
+// How the simulated phone is steered: by the lines of scripts, by model, and what it then does as a phone does; and the
+// time limit on its played clock.
 #include <fstream>
+#include <functional>
 #include <regex>
 #include <sstream>
 
@@ -7,6 +9,7 @@
 #include "platform/qmsl.h"
 #include "tandekor/simulator.h"
 #include "tests/support/bench_test.h"
+#include "tests/support/call.h"
 
 namespace tandekor::test
 {
@@ -47,14 +50,10 @@ TEST_F(SteeringTest, ManualShowsLinesAndNamesThatThereAre)
         for (std::string line; std::getline(lines, line);)
             EXPECT_EQ(PHONE_Run(line.c_str()), 1) << line << ": " << PHONE_LastError();
     }
-    uint8_t battery = 0;
-    uint8_t charging = 0;
-    uint16_t status = 0;
     simulator::ThePhone().obexMode = false;
     PHONE_Silence(0);
-    TANDEKOR_AT_Get_CBC(handle, &charging, &battery, &status);  // the reply that is queued
-    EXPECT_EQ(TANDEKOR_AT_Get_CBC(handle, &charging, &battery, &status), 1);
-    EXPECT_EQ(battery, 3);
+    With(TANDEKOR_AT_Get_CBC)(handle);  // the reply that is queued
+    EXPECT_EQ(Values(With(TANDEKOR_AT_Get_CBC)(handle).outs)[1], 3U);
     char value[64];
     for (const std::string& row : Matches(manual, "\n\\| (`[^|]*)\\|"))
     {
@@ -65,16 +64,11 @@ TEST_F(SteeringTest, ManualShowsLinesAndNamesThatThereAre)
 
 TEST_F(SteeringTest, WrongLinesAreRefusedWithTheReason)
 {
-    const struct
-    {
-        const char* line;
-        const char* error;
-    } cases[] = {
+    const std::string noOperation = " is no operation of the host library that is counted or can be refused";
+    const std::pair<const char*, std::string> cases[] = {
         {"fly 1", "there is no verb \"fly\""},
-        {"refuse QLIB_NoSuch 1",
-         "\"QLIB_NoSuch\" is no operation of the host library that is counted or can be refused"},
-        {"refuse QLIB_SetLogFlags 1",
-         "\"QLIB_SetLogFlags\" is no operation of the host library that is counted or can be refused"},
+        {"refuse QLIB_NoSuch 1", "\"QLIB_NoSuch\"" + noOperation},
+        {"refuse QLIB_SetLogFlags 1", "\"QLIB_SetLogFlags\"" + noOperation},
         {"refuse QLIB_SendRAW 0", "calls are counted from 1 to 2147483647"},
         {"refuse QLIB_SendRAW", "the line reads: refuse OPERATION CALL"},
         {"refuse QLIB_SendRAW 1 2", "the line reads: refuse OPERATION CALL"},
@@ -91,64 +85,56 @@ TEST_F(SteeringTest, WrongLinesAreRefusedWithTheReason)
         {"file /a 00", "\"/a\" is no path as in Pictures/Holiday/beach.jpg"},
         {"delete nothing", "the phone has no file \"nothing\""},
     };
-    for (const auto& row : cases)
+    for (const auto& [line, error] : cases)
     {
-        EXPECT_EQ(PHONE_Run(row.line), 0) << row.line;
-        EXPECT_STREQ(PHONE_LastError(), row.error);
+        EXPECT_EQ(PHONE_Run(line), 0) << line;
+        EXPECT_EQ(PHONE_LastError(), error);
     }
     EXPECT_EQ(QLIB_IsPhoneConnected(handle), 1) << "nothing was changed";
 }
 
 TEST_F(SteeringTest, EveryModelIsToldByTheLibrary)
 {
-    int models = 0;
+    uint32_t models = 0;
     for (uint32_t model = 0; model < 100; ++model)
     {
         if (PHONE_SetModel(model) == 0)
             continue;
         ++models;
-        PHONE_Set("mode", "ftm");
-        uint32_t version = 0;
-        uint32_t msmModel = 0;
-        uint32_t told = 0;
-        EXPECT_EQ(TANDEKOR_Phone_Model(handle, &version, &msmModel, &told), 1);
-        EXPECT_EQ(told, model);
+        PHONE_Run("set mode ftm");
+        const CallResult made = With(TANDEKOR_Phone_Model)(handle);
+        EXPECT_EQ(made.result, 1);
+        EXPECT_EQ(Values(made.outs)[2], model);
     }
-    EXPECT_EQ(models, 25);
+    EXPECT_EQ(models, 25U);
 }
 
 TEST_F(SteeringTest, OtherModesHaveNoFactoryRequestsAndFtmHasNoNetwork)
 {
-    uint32_t version = 0;
-    uint8_t reporting = 0, state = 0, area[2] = {}, cell[2] = {}, level = 0, errors = 0;
-    uint16_t status = 0;
     for (const char* mode : {"online", "offline", "ftm"})
     {
         SCOPED_TRACE(mode);
         const bool ftm = mode == std::string("ftm");
         const bool online = mode == std::string("online");
         PHONE_Set("mode", mode);
-        EXPECT_EQ(TANDEKOR_FTM_GET_HARDWARE_VERSION(handle, &version), ftm);
+        EXPECT_EQ(With(TANDEKOR_FTM_GET_HARDWARE_VERSION)(handle).result, ftm);
         EXPECT_EQ(QLIB_FTM_AUDIO_SET_VOLUME(handle, 1), ftm);
         EXPECT_EQ(QLIB_FTM_SET_TX_ON(handle), ftm);
-        TANDEKOR_AT_Get_CREG(handle, &reporting, &state, area, cell, &status);
-        EXPECT_EQ(state, online ? 1 : 0);
-        TANDEKOR_AT_Get_CSQ(handle, &level, &errors, &status);
-        EXPECT_EQ(level, online ? 21 : 99);
+        EXPECT_EQ(Values(With(TANDEKOR_AT_Get_CREG, {Out{1}, Out{1}, Out{2}, Out{2}})(handle).outs)[1],
+                  online ? 1U : 0U);
+        EXPECT_EQ(Values(With(TANDEKOR_AT_Get_CSQ)(handle).outs)[0], online ? 21U : 99U);
     }
-    char missing[128] = "missing.bmp";
-    char present[128] = "contrast.bmp";
-    EXPECT_EQ(TANDEKOR_FTM_DISPLAY_IMAGE(handle, missing), 0);
-    EXPECT_EQ(TANDEKOR_FTM_DISPLAY_IMAGE(handle, present), 1);
+    const auto show = [&](std::string name)
+    { return name.resize(128), With(TANDEKOR_FTM_DISPLAY_IMAGE, {Ascii(name)})(handle).result; };
+    EXPECT_TRUE(show("contrast.bmp") == 1 && show("missing.bmp") == 0);
 }
 
 TEST_F(SteeringTest, AnswersTakeTheirLatencyAndSilenceTheTimeOut)
 {
-    uint16_t status = 0;
     const auto takes = [&](uint8_t result)
     {
         const uint32_t start = simulator::TheClock().now;
-        EXPECT_EQ(TANDEKOR_AT_CHUP(handle, &status), result);
+        EXPECT_EQ(With(TANDEKOR_AT_CHUP)(handle).result, result);
         return simulator::TheClock().now - start;
     };
     EXPECT_EQ(takes(1), 0U);
@@ -166,16 +152,11 @@ TEST_F(SteeringTest, AnswersTakeTheirLatencyAndSilenceTheTimeOut)
 
 TEST_F(SteeringTest, QueuedRepliesServeTheirOperation)
 {
-    uint16_t status = 0;
-    uint32_t version = 0;
-    const uint8_t error[] = {'\r', '\n', 'E', 'R', 'R', 'O', 'R'};
-    PHONE_Set("mode", "ftm");
-    PHONE_QueueReply("QLIB_SendRAW", 1, -1, error, sizeof error);
-    EXPECT_EQ(TANDEKOR_FTM_GET_HARDWARE_VERSION(handle, &version), 1) << "of the phone's own";
-    TANDEKOR_AT_CHUP(handle, &status);
-    EXPECT_EQ(status, 1);
-    TANDEKOR_AT_CHUP(handle, &status);
-    EXPECT_EQ(status, 0);
+    PHONE_Run("set mode ftm");
+    PHONE_Run("reply QLIB_SendRAW 1 - 0D 0A 45 52 52 4F 52");
+    EXPECT_EQ(With(TANDEKOR_FTM_GET_HARDWARE_VERSION)(handle).result, 1) << "of the phone's own";
+    for (const uint32_t status : {1U, 0U})
+        EXPECT_EQ(Values(With(TANDEKOR_AT_CHUP)(handle).outs), Numbers{status});
 }
 
 TEST_F(SteeringTest, CallsTextsAndWaitsStandInOneListThatIsBounded)
@@ -191,6 +172,68 @@ TEST_F(SteeringTest, CallsTextsAndWaitsStandInOneListThatIsBounded)
     EXPECT_LE(simulator::Calls().size(), 6U);
     EXPECT_EQ(simulator::Calls().back(), "QLIB_IsPhoneConnected()");
     EXPECT_EQ(PHONE_CountCalls("QLIB_IsPhoneConnected"), 100U);
+}
+
+TEST_F(SteeringTest, PhoneTakesItsTimeToStartAndToGoOff)
+{
+    simulator::ThePhone().on = false;
+    simulator::ThePhone().nvItems[453] = {1};
+    const std::function<void()> on = [] { simulator::SwitchSupply(true); },
+                                off = [] { simulator::SwitchSupply(false); };
+    const std::function<void()> none = [] {}, reset = [&] { QLIB_DIAG_CONTROL_F(handle, 2); };
+    const std::function<void()> powerDown = [&] { QLIB_DIAG_CONTROL_F(handle, 6); };
+    // What is done, and whether the phone answers so many milliseconds later. A supply may come back in time.
+    const std::tuple<std::function<void()>, uint32_t, bool> steps[] = {
+        {on, 3999, false},    {none, 1, true},   {off, 499, true},
+        {on, 1000, true},     {off, 500, false}, {on, 4000, true},
+        {reset, 3999, false}, {none, 1, true},   {powerDown, 1'000'000, false},
+    };
+    for (const auto& [act, milliseconds, answers] : steps)
+    {
+        act();
+        simulator::TheClock().now += milliseconds;
+        EXPECT_EQ(QLIB_IsPhoneConnected(handle) != 0, answers) << "at " << simulator::TheClock().now;
+        EXPECT_TRUE(!answers || simulator::ThePhone().mode == simulator::Mode::Ftm);
+    }
+}
+
+TEST_F(SteeringTest, RefusalsCountFromTheirScriptOnAndAreRecordedWithoutEffect)
+{
+    const auto connected = [&] { return int{QLIB_IsPhoneConnected(handle)}; };
+    EXPECT_EQ(connected(), 1);
+    simulator::RefuseCall("QLIB_IsPhoneConnected", 2);
+    for (const int answer : {1, 0, 1})
+        EXPECT_EQ(connected(), answer);
+    simulator::RefuseAnyCall(2);
+    simulator::RefuseCallsFrom("QLIB_DIAG_CONTROL_F");
+    EXPECT_EQ(QLIB_DIAG_CONTROL_F(handle, 0), 0);
+    EXPECT_EQ(connected(), 0);
+    EXPECT_EQ(connected(), 1);
+    EXPECT_EQ(QLIB_DIAG_CONTROL_F(handle, 3), 0);
+    EXPECT_EQ(simulator::Calls().back(), "QLIB_DIAG_CONTROL_F(3)");
+    EXPECT_EQ(simulator::CountCalls("QLIB_IsPhoneConnected"), 6);
+    EXPECT_EQ(simulator::ThePhone().mode, simulator::Mode::Online);
+}
+
+TEST_F(SteeringTest, WhatIsNotSimulatedFailsAndSaysSo)
+{
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(QLIB_DIAG_CONTROL_F(handle, 5), 0);
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "SIMULATOR: QLIB_DIAG_CONTROL_F(5) is not simulated\n");
+    EXPECT_EQ(simulator::Calls().back(), "QLIB_DIAG_CONTROL_F(5)");
+}
+
+TEST_F(SteeringTest, TimeLimitHoldsOverAWrapOfTheCounter)
+{
+    simulator::TheClock().now = 0xFFFFFF00;
+    const platform::TimeLimit limit(1000);
+    platform::Sleep(999);
+    EXPECT_EQ(platform::TickCount(), 743U);
+    EXPECT_TRUE(limit.Running());
+    platform::Sleep(1);
+    EXPECT_FALSE(limit.Running() || limit.Passed()) << "neither at the limit itself";
+    platform::Sleep(1);
+    EXPECT_TRUE(limit.Passed());
 }
 
 }  // namespace tandekor::test

@@ -26,6 +26,20 @@ std::string ToHex(const Bytes& bytes);
 using Numbers = std::vector<uint32_t>;
 Numbers Values(const std::vector<Bytes>& outs);
 
+// Out-values as the bytes that they have in the caller's memory.
+template <typename Number>
+Bytes InMemory(const std::vector<Number>& numbers)
+{
+    const auto* start = reinterpret_cast<const uint8_t*>(numbers.data());
+    return {start, start + numbers.size() * sizeof(Number)};
+}
+template <typename... Numbers>
+Bytes U32(Numbers... numbers)
+{
+    return InMemory(std::vector{static_cast<uint32_t>(numbers)...});
+}
+inline Bytes U16(uint16_t number) { return InMemory(std::vector{number}); }
+
 class BenchTest : public ::testing::Test
 {
 protected:

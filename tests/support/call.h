@@ -100,23 +100,23 @@ private:
 using Invoke = std::function<uint8_t(ResourceContext, Arguments&)>;
 Call MakeCall(std::vector<Parameter> parameters, std::vector<Given> all, Invoke invoke);
 
-template <typename... Parameters, size_t... places>
-Invoke InvokeOf(uint8_t (*function)(ResourceContext, Parameters...), std::index_sequence<places...>)
+template <std::integral Result, typename... Parameters, size_t... places>
+Invoke InvokeOf(Result (*function)(ResourceContext, Parameters...), std::index_sequence<places...>)
 {
     return [function](ResourceContext handle, [[maybe_unused]] Arguments& arguments)
-    { return function(handle, arguments.Value<Parameters>(places)...); };
+    { return static_cast<uint8_t>(function(handle, arguments.Value<Parameters>(places)...)); };
 }
 
-template <typename... Parameters>
-Call With(uint8_t (*function)(ResourceContext, Parameters...), std::vector<Given> all = {})
+template <std::integral Result, typename... Parameters>
+Call With(Result (*function)(ResourceContext, Parameters...), std::vector<Given> all = {})
 {
     return MakeCall({ParameterOf<Parameters>()...}, std::move(all),
                     InvokeOf(function, std::index_sequence_for<Parameters...>()));
 }
 
 // A function with each combination of what its arguments may be.
-template <typename... Parameters>
-std::vector<Call> Sweep(uint8_t (*function)(ResourceContext, Parameters...),
+template <std::integral Result, typename... Parameters>
+std::vector<Call> Sweep(Result (*function)(ResourceContext, Parameters...),
                         const std::vector<std::vector<Given>>& choices)
 {
     std::vector<Call> calls;

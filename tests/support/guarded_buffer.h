@@ -20,10 +20,9 @@ class GuardedBuffer
 {
 public:
     explicit GuardedBuffer(size_t bufferSize) : GuardedBuffer(Bytes(bufferSize, 0x55)) {}
-    explicit GuardedBuffer(const Bytes& content) : memory(guardSize, 0xA5)
+    explicit GuardedBuffer(const Bytes& content) : memory(content.size() + 2 * guardSize, 0xA5)
     {
-        memory.insert(memory.end(), content.begin(), content.end());
-        memory.resize(memory.size() + guardSize, 0xA5);
+        std::copy(content.begin(), content.end(), memory.begin() + guardSize);
     }
 
     uint8_t* Data() { return memory.data() + guardSize; }

@@ -1,0 +1,7 @@
+// Every factory request on any reply.
+#include "fuzz/support/replies.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    return fuzz::CallOnReplies("ftm", data, size);
+}

@@ -1,0 +1,7 @@
+// Every OBEX function on any conversation, with a folder of the host for the transfers.
+#include "fuzz/support/replies.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    return fuzz::CallOnReplies("obex", data, size);
+}
