@@ -52,8 +52,9 @@ void* operator new(size_t size, const std::nothrow_t&) noexcept
     Count(__builtin_return_address(0));
     return std::malloc(size);
 }
-void operator delete(void* block) noexcept { std::free(block); }
-void operator delete(void* block, size_t) noexcept { std::free(block); }
+// Not inlined, where compilers would take it for the wrong end of an operator new.
+[[gnu::noinline]] void operator delete(void* block) noexcept { std::free(block); }
+[[gnu::noinline]] void operator delete(void* block, size_t) noexcept { std::free(block); }
 
 extern "C" int nanosleep(const timespec* time, timespec*)
 {
