@@ -36,12 +36,24 @@ void* operator new(size_t size)
     ++blocks;
     return std::malloc(size);
 }
-void operator delete(void* block) noexcept
+void* operator new(size_t size, const std::nothrow_t&) noexcept
+{
+    try
+    {
+        return operator new(size);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return nullptr;
+    }
+}
+// Not inlined, where compilers would take it for the wrong end of an operator new.
+[[gnu::noinline]] void operator delete(void* block) noexcept
 {
     blocks -= block != nullptr ? 1 : 0;
     std::free(block);
 }
-void operator delete(void* block, size_t) noexcept { operator delete(block); }
+[[gnu::noinline]] void operator delete(void* block, size_t) noexcept { operator delete(block); }
 
 void QLIB_GetLibraryVersion(char* text) { std::strcpy(text, "QLIB V5.0.40,QPHONEMS"); }
 ResourceContext QLIB_ConnectServer(uint32_t)
