@@ -144,7 +144,8 @@ TEST_F(DataAccessTest, ValuesOfAdcAndFuelGauge)
     ExpectAnswers(R"(
         FTM_MGET_ADC_VAL: 00 00 E8 03 00 00 > 1 1000 (iADC_Channel = 3, iReadCount = 1000, iADC_Sum = 1000) done
         | 02 80 01 00 00 80 > 0 0x80000001
-          (iADC_Channel = 3, iReadCount = 1000, iADC_Sum = -2147483647) - error code = 32770 | = > 1 0x55555555 (iADC_Channel = 3, iReadCount = 1000, iADC_Sum = 1431655765) done
+          (iADC_Channel = 3, iReadCount = 1000, iADC_Sum = -2147483647) - error code = 32770
+        | = > 1 0x55555555 (iADC_Channel = 3, iReadCount = 1000, iADC_Sum = 1431655765) done
         | ! > 0 0x55555555 (iADC_Channel = 3, iReadCount = 1000, iADC_Sum = 1431655765) noReply
         FTM_GG_READ_REG: 00 34 92 > 1 0,0x9234 done | 07 34 92 > 0 7,0x9234 - Wrong status (7)\n
         | = > 0 85,0x5555 - Wrong status (85)\n | ! > 0 85,0x5555 - error code = 187\n

@@ -261,10 +261,14 @@ TEST_F(CameraAndRadioTest, BlocksAreTakenWhateverTheirStatusIsAndCloseWithTextsO
          ",0,0" + Area(16, 0, true) + ",0,0", ",0x5555,85*99"},
     };
     for (const auto& [call, text, outs, ofAShortReply, untouched] : rows)
-        ExpectAnswers(call, "=" + Block() + " > 1 0" + outs + text + " done | =" + Block({{10, 200}}) + " > 0 200"
-                                + outs + text + " - error code = 200 | =" + ToHex(Bytes(110, 7)) + " > 1 0"
-                                + ofAShortReply + text + " done | !" + Block() + " > 0 85" + untouched + text
-                                + " - SendSync() fail (error code = 0)");
+    {
+        for (const auto& [reply, meant, ending] :
+             {std::tuple("=" + Block() + " > 1 0", outs, " done"),
+              {"=" + Block({{10, 200}}) + " > 0 200", outs, " - error code = 200"},
+              {"=" + ToHex(Bytes(110, 7)) + " > 1 0", ofAShortReply, " done"},
+              {"!" + Block() + " > 0 85", untouched, " - SendSync() fail (error code = 0)"}})
+            ExpectAnswers(call, (reply + meant).append(text).append(ending));
+    }
 }
 
 TEST_F(CameraAndRadioTest, ScanListIsWrittenIfValidIs1AndTextsEndAtTheirNul)
