@@ -10,23 +10,15 @@ namespace
 {
 
 // A name with bytes behind its NUL, and one that fills the buffer.
-const Bytes shortName = []
-{
-    Bytes buffer(128, 0xEE);
-    buffer[0] = 'p';
-    buffer[1] = 0;
-    return buffer;
-}();
+const Bytes shortName = Ascii(std::string("p\0", 2) + std::string(126, '\xEE'));
 const std::string fullName(128, 'n');
 
 const Call ftmId = With(TANDEKOR_FTM_GetCameraIDString, {Out{25}}),
            ltmId = With(TANDEKOR_LTM_GetCameraIdString, {Out{25}});
-const Call flash = With(TANDEKOR_FTM_TEST_CAMERA_FLASH, {1, 255});
 Call Focus(uint8_t level) { return With(TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS, {level}); }
 Call Light(uint16_t row, uint8_t on) { return With(TANDEKOR_FTM_SetKeyPadBackLight, {row, on}); }
 Call Slider(uint8_t hint, uint8_t before = 'q') { return With(TANDEKOR_FTM_GetSliderState, {Bytes{before}, hint}); }
 
-const Call tune = With(TANDEKOR_FTM_TUNE_FM_RADIO, {8750}), rds = With(TANDEKOR_FTM_RM_RADIO_RDS_TEST);
 const Call stationInfo = With(TANDEKOR_FTM_FM_RADIO_GET_STATION_INFO);
 
 // Status, valid, count; then a list of 48 words.
@@ -56,30 +48,14 @@ std::string Block(const std::vector<std::pair<size_t, uint8_t>>& changes = {})
 }
 
 // The outs of a scan and of a program: the bytes of the block that are written, from this one on, in an area of 96.
-Numbers Area(uint32_t from, uint32_t count)
+std::string Area(uint32_t from, uint32_t count, bool isText = false)
 {
-    Numbers area(96, 0x55);
+    std::string area;
     for (uint32_t i = 0; i < count; ++i)
-        area[i] = from + i;
-    return area;
+        area += "," + std::to_string(from + i);
+    return area + (isText ? ",0,85*" + std::to_string(95 - count) : ",85*" + std::to_string(96 - count));
 }
-Numbers Scan(const Numbers& first, uint32_t written)
-{
-    Numbers outs = Area(15, written);
-    outs.insert(outs.begin(), first.begin(), first.end());
-    return outs;
-}
-Numbers Program(const Numbers& first, uint32_t written, const Numbers& last)
-{
-    Numbers outs = Area(16, written);
-    outs[written] = 0;
-    outs.insert(outs.begin(), first.begin(), first.end());
-    outs.insert(outs.end(), last.begin(), last.end());
-    return outs;
-}
-
-const Numbers station{0, 13, 0x0F0E, 16, 17, 0x1312, 20, 21, 22, 23, 0x1918};
-const std::string blocks = "\nTANDEKOR_FTM_FM_RADIO_";
+const std::string station = ",13,0x0F0E,16,17,0x1312,20,21,22,23,0x1918", blocks = " \\nTANDEKOR_FTM_FM_RADIO_";
 
 }  // namespace
 
@@ -98,7 +74,7 @@ std::vector<FtmRequest> DisplayCameraAndRadioRequests()
          "FTM_SET_LCD_CONTRAST(iLcdContrastLevel = 255)", 0},
         {Light(3, 1), "F5 00 04 00 0C 00 1F 00 00 00", "FTM_SetKeyPadBackLight()"},
         {Slider(53), "F6 00 00 00 0C 00", "ZR_GetSliderState() start"},
-        {flash, "26 00 02 00 0C 00 01 FF", "FTM_TEST_CAMERA_FLASH(1, 255)"},
+        {With(TANDEKOR_FTM_TEST_CAMERA_FLASH, {1, 255}), "26 00 02 00 0C 00 01 FF", "FTM_TEST_CAMERA_FLASH(1, 255)"},
         {With(TANDEKOR_FTM_SET_FLASH_LIGHT_LEVEL, {0x1234}), "96 00 02 00 0D 00 34 12",
          "FTM_SET_FLASH_LIGHT_LEVEL(iLevel = 4660)", 0, 3000, "", true},
         {Focus(1), "F7 00 01 00 0C 00 01", "FTM_SET_I2C_CAMERA_FOCUS(focusLevel = 1)", 0},
@@ -107,8 +83,8 @@ std::vector<FtmRequest> DisplayCameraAndRadioRequests()
         {ltmId, "4B 0B 01 80 3A 05 0A 00 23 00", "LTM_GetCameraIdString() - Started"},
         {With(TANDEKOR_FTM_GET_FM_RADIO_ID), "16 00 00 00 0E 00", "FTM_GET_FM_RADIO_ID(iChip_Id = 21845)", 2, 3000,
          "FTM_GET_FM_RADIO_ID()"},
-        {tune, "1C 00 02 00 0C 00 2E 22", "FTM_TUNE_FM_RADIO(iChannel = 8750)"},
-        {rds, "22 00 00 00 0C 00", "FTM_RM_RADIO_RDS_TEST()", 0},
+        {With(TANDEKOR_FTM_TUNE_FM_RADIO, {8750}), "1C 00 02 00 0C 00 2E 22", "FTM_TUNE_FM_RADIO(iChannel = 8750)"},
+        {With(TANDEKOR_FTM_RM_RADIO_RDS_TEST), "22 00 00 00 0C 00", "FTM_RM_RADIO_RDS_TEST()", 0},
         {scan, BlockRequest(2), "FTM_FM_RADIO_SCAN_RF()", ownProcedure, 20000},
         {stationInfo, BlockRequest(0), "FTM_FM_RADIO_GET_STATION_INFO()", ownProcedure, 20000},
         {programInfo, BlockRequest(1), "FTM_FM_RADIO_GET_PROGRAM_INFO()", ownProcedure, 20000},
@@ -119,25 +95,15 @@ using CameraAndRadioTest = FtmTest;
 
 TEST_F(CameraAndRadioTest, FlashAndIdentificationCloseWithTextsOfTheirOwn)
 {
+    ExpectAnswers("FTM_TEST_CAMERA_FLASH: 09 00 > 1 0 () done | ! > 0 187 () noReply");
+    ExpectAnswers(Focus(0), "> 0 - TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS(focusLevel = 0) - Focus Level out of range");
     // The last 25 bytes are the identification, which is bad if it begins with CC.
-    Numbers good(25, 'a'), wrong(25, 'a');
-    wrong[0] = 0xCC;
-    const Numbers untouched(25, 0x55);
-    const std::string as = ToHex(Bytes(24, 'a')), called = "()";
-    const std::string wrongFtm = "() - Failure (Wrong ID String)";
-    ExpectAnswers({
-        {flash, "09 00", 1, {0}, {called + done}},
-        {flash, "!", 0, {187}, {called + noReply}},
-        {Focus(0), "", 0, {}, {"TANDEKOR_FTM_I2C_SET_CAMERA_FOCUS(focusLevel = 0) - Focus Level out of range"}},
-        {ftmId, "61 " + as, 1, good, {}},
-        {ltmId, "EE EE 61 " + as, 1, good, {}},
-        {ftmId, "CC " + as, 0, wrong, {wrongFtm}},
-        {ltmId, "CC " + as, 0, wrong, {"() - Failure - Wrong ID"}},
-        {ftmId, "CC CC", 1, untouched, {}},
-        {With(TANDEKOR_FTM_GetCameraIDString, {Bytes(25, 0xCC)}), "=", 0, Numbers(25, 0xCC), {wrongFtm}},
-        {ftmId, "!", 0, untouched, {called + noReply}},
-        {ltmId, "!", 0, untouched, {called + noReply}},
-    });
+    const std::string as = ToHex(Bytes(24, 'a')), wrong = "CC " + as + " > 0 0xCC,97*24 () - Failure ";
+    const std::string noAnswer = " | ! > 0 85*25 () noReply";
+    ExpectAnswers(ftmId, "61 " + as + " > 1 97*25 | CC CC > 1 85*25 | " + wrong + "(Wrong ID String)" + noAnswer);
+    ExpectAnswers(ltmId, "EE EE 61 " + as + " > 1 97*25 | " + wrong + "- Wrong ID" + noAnswer);
+    ExpectAnswers(With(TANDEKOR_FTM_GetCameraIDString, {Bytes(25, 0xCC)}),
+                  "= > 0 0xCC*25 () - Failure (Wrong ID String)");
 }
 
 // Requests that depend on the phone model, which they ask for.
@@ -261,7 +227,7 @@ TEST_F(ModelRequestsTest, SliderStateFollowsFromWordAndModelAndTheHintSavesTheQu
 TEST_F(ModelRequestsTest, SliderLog)
 {
     const std::string start = "ZR_GetSliderState() start", entry = "TANDEKOR_FTM_GetSliderState()";
-    ExpectAnswers({{Slider(52), "!", 0, {0}, {entry, "\t" + entry + noReply}}});
+    ExpectAnswers(Slider(52), "! > 0 0 " + entry + " / \\t" + entry + " noReply");
     simulator::QueueReply({{}, 7, {}});
     Run(Slider(52), 7, 0);  // the result of the exchange
     ExpectLog({start}, {entry, "\t" + entry + done});
@@ -277,60 +243,47 @@ TEST_F(ModelRequestsTest, SliderLog)
 
 TEST_F(CameraAndRadioTest, TuningTakesItsStatusFromWhateverArrivesAnd3IsGoodToo)
 {
-    ExpectAnswers({
-        {tune, "00 00", 1, {0}, {done}},
-        {tune, "03 00", 1, {3}, {done}},
-        {tune, "01 00", 0, {1}, {" - error code = 1"}},
-        {tune, "03 81", 0, {0x8103}, {" - error code = 33027"}},
-        {tune, "=", 1, {0x5555}, {done}},
-        {tune, "!", 0, {0x5555}, {noReply}},
-        {tune, "! 4B 03 00", 0, {3}, {" - SendSync() fail (error code = 75)"}},
-        {rds, "07 81", 0, {0x8107}, {" - error code = 33031"}},
-    });
+    ExpectAnswers(R"(
+        FTM_TUNE_FM_RADIO: 00 00 > 1 0 done | 03 00 > 1 3 done | 01 00 > 0 1 - error code = 1
+        | 03 81 > 0 0x8103 - error code = 33027 | = > 1 0x5555 done | ! > 0 0x5555 noReply
+        | ! 4B 03 00 > 0 3 - SendSync() fail (error code = 75)
+        FTM_RM_RADIO_RDS_TEST: 07 81 > 0 0x8107 - error code = 33031
+    )");
 }
 
 TEST_F(CameraAndRadioTest, BlocksAreTakenWhateverTheirStatusIsAndCloseWithTextsOfTheirOwnLine)
 {
-    const std::tuple<Call, std::string, Numbers, Numbers> rows[] = {
-        {scan, "SCAN_ALL_RF()", Scan({0, 13, 14}, 0), Scan({0, 0, 0}, 0)},
-        {stationInfo, "GET_STATION_INFO()", station, Numbers(11)},
-        {programInfo, "GET_PROGRAM_INFO()", Program({0, 0x0E0D, 15}, 95, {25, 26}), Program({0, 0, 0}, 0, {0, 0})},
+    // The outs behind the status: of a block, of a reply that is short, and untouched.
+    const std::tuple<Call, std::string, std::string, std::string, std::string> rows[] = {
+        {scan, blocks + "SCAN_ALL_RF()", ",13,14" + Area(15, 0), ",0,0" + Area(15, 0), ",85*98"},
+        {stationInfo, blocks + "GET_STATION_INFO()", station, ",0*10", ",85,0x5555,85,85,0x5555,85*4,0x5555"},
+        {programInfo, blocks + "GET_PROGRAM_INFO()", ",0x0E0D,15" + Area(16, 95, true) + ",25,26",
+         ",0,0" + Area(16, 0, true) + ",0,0", ",0x5555,85*99"},
     };
-    for (const auto& [call, name, outs, ofAShortReply] : rows)
+    for (const auto& [call, text, outs, ofAShortReply, untouched] : rows)
     {
-        Numbers refused = outs, untouched = outs;
-        refused[0] = 200;
-        for (uint32_t& number : untouched)
-            number = number > 0xFF ? 0x5555 : 0x55;
-        ExpectAnswers({
-            {call, "=" + Block(), 1, outs, {blocks + name + done}},
-            {call, "=" + Block({{10, 200}}), 0, refused, {blocks + name + " - error code = 200"}},
-            {call, "=" + ToHex(Bytes(110, 7)), 1, ofAShortReply, {blocks + name + done}},
-            {call, "!" + Block(), 0, untouched, {blocks + name + " - SendSync() fail (error code = 0)"}},
-        });
+        for (const auto& [reply, meant, ending] :
+             {std::tuple("=" + Block() + " > 1 0", outs, " done"),
+              {"=" + Block({{10, 200}}) + " > 0 200", outs, " - error code = 200"},
+              {"=" + ToHex(Bytes(110, 7)) + " > 1 0", ofAShortReply, " done"},
+              {"!" + Block() + " > 0 85", untouched, " - SendSync() fail (error code = 0)"}})
+            ExpectAnswers(call, (reply + meant).append(text).append(ending));
     }
 }
 
 TEST_F(CameraAndRadioTest, ScanListIsWrittenIfValidIs1AndTextsEndAtTheirNul)
 {
-    // Valid and count in the block, the count that is shown, and how many bytes are written.
-    const Bytes cases[]
-        = {{1, 3, 3, 6}, {1, 48, 48, 96}, {1, 49, 48, 96}, {1, 255, 48, 96}, {1, 0, 0, 0}, {0, 3, 3, 0}, {2, 3, 3, 0}};
-    for (const Bytes& row : cases)
-        ExpectAnswers({{scan,
-                        "=" + Block({{13, row[0]}, {14, row[1]}}),
-                        1,
-                        Scan({0, row[0], row[2]}, row[3]),
-                        {blocks + "SCAN_ALL_RF()" + done}}});
-    ExpectAnswers({
-        {programInfo,
-         "=" + Block({{20, 0}}),
-         1,
-         Program({0, 0x0E0D, 15}, 4, {25, 26}),
-         {blocks + "GET_PROGRAM_INFO()" + done}},
-        // The last 111 bytes count.
-        {stationInfo, "=EE EE EE EE EE " + Block(), 1, station, {blocks + "GET_STATION_INFO()" + done}},
-    });
+    // Valid and count in the block, the outs of them, and how many bytes are written.
+    const std::tuple<uint8_t, uint8_t, const char*, uint32_t> cases[]
+        = {{1, 3, ",1,3", 6}, {1, 48, ",1,48", 96}, {1, 49, ",1,48", 96}, {1, 255, ",1,48", 96},
+           {1, 0, ",1,0", 0}, {0, 3, ",0,3", 0},    {2, 3, ",2,3", 0}};
+    for (const auto& [valid, count, first, written] : cases)
+        ExpectAnswers(scan, "=" + Block({{13, valid}, {14, count}}) + " > 1 0" + first + Area(15, written) + blocks
+                                + "SCAN_ALL_RF() done");
+    ExpectAnswers(programInfo, "=" + Block({{20, 0}}) + " > 1 0,0x0E0D,15" + Area(16, 4, true) + ",25,26" + blocks
+                                   + "GET_PROGRAM_INFO() done");
+    // The last 111 bytes count.
+    ExpectAnswers(stationInfo, "=EE EE EE EE EE " + Block() + " > 1 0" + station + blocks + "GET_STATION_INFO() done");
 }
 
 }  // namespace tandekor::test

@@ -1,5 +1,6 @@
 #include "tests/ftm/ftm_test.h"
 
+#include <algorithm>
 #include <regex>
 #include <sstream>
 
@@ -28,18 +29,37 @@ std::string Expanded(const std::string& text, const std::string& entry, const Nu
     return '\t' + shown + rest + text;
 }
 
+Texts ExpectedLog(std::string text, const std::string& entry, const Numbers& outs)
+{
+    for (const auto& [word, meant] :
+         {std::pair(" done", done), {" noReply", noReply}, {R"(\\n)", "\n"}, {R"(\\t)", "\t"}, {R"(\\s)", " "}})
+        text = std::regex_replace(text, std::regex(word), meant);
+    Texts log = {entry};
+    for (size_t end = 0; !text.empty(); text.erase(0, end + 2))
+    {
+        end = std::min(text.find(" / "), text.size());
+        const std::string one = text.substr(0, end);
+        log.push_back(Expanded(one.starts_with(" -") || one.starts_with("  ") ? one : one.substr(1), entry, outs));
+    }
+    return log;
+}
+
 }  // namespace
 
 void FtmTest::RepliesWith(const std::string& fields) { Replies(Hex("01 02 03 04 05 06 07 08 09 00 " + fields)); }
 
-void FtmTest::ExpectAnswers(const std::vector<Answered>& rows)
+void FtmTest::ExpectAnswers(const Call& call, const std::string& answers)
 {
-    for (const Answered& row : rows)
+    static const std::regex form(R"(\s*([^>|]*?) ?> (\d) ([^\s|]+)( [^|]*[^|\s])?\s*(\||$))");
+    static const std::regex value(R"((\w+)\*?(\d*))");
+    const std::sregex_iterator first(answers.begin(), answers.end(), form), end;
+    EXPECT_EQ(std::distance(first, end), std::count(answers.begin(), answers.end(), '>')) << answers;
+    for (std::sregex_iterator answer = first; answer != end; ++answer)
     {
         simulator::ForgetCalls();
         simulator::ForgetLog();
         size_t replies = 0;
-        std::istringstream stream(row.replies);
+        std::istringstream stream((*answer)[1]);
         for (std::string reply; std::getline(stream, reply, ';'); ++replies)
         {
             if (reply[0] == '!')
@@ -47,16 +67,34 @@ void FtmTest::ExpectAnswers(const std::vector<Answered>& rows)
             else
                 reply[0] == '=' ? Replies(Hex(reply.substr(1))) : RepliesWith(reply);
         }
-        const CallResult call = row.call(handle);
-        SCOPED_TRACE(Log().front() + " answered by " + row.replies);
-        EXPECT_EQ(call.result, row.result);
-        EXPECT_EQ(Values(call.outs), row.outs);
-        EXPECT_TRUE(call.guardsIntact);
-        Texts expected = {Log().front()};
-        for (const std::string& text : row.log)
-            expected.push_back(Expanded(text, Log().front(), row.outs));
-        EXPECT_EQ(Log(), expected);
+        const std::string values = (*answer)[3];
+        Numbers outs;
+        for (std::sregex_iterator out(values.begin(), values.end(), value); out != end; ++out)
+            outs.insert(outs.end(), std::stoul('0' + (*out)[2].str()) + ((*out)[2].length() == 0 ? 1 : 0),
+                        static_cast<uint32_t>(std::stoul((*out)[1], nullptr, 0)));
+        const CallResult made = call(handle);
+        SCOPED_TRACE(Log().front() + " answered by " + answer->str());
+        EXPECT_EQ(made.result, std::stoi((*answer)[2]));
+        EXPECT_EQ(Values(made.outs), outs);
+        EXPECT_TRUE(made.guardsIntact);
+        EXPECT_EQ(Log(), ExpectedLog((*answer)[4], Log().front(), outs));
         EXPECT_EQ(CountExchanges(), replies);
+    }
+}
+
+void FtmTest::ExpectAnswers(const std::string& rows)
+{
+    std::istringstream stream(std::regex_replace(rows, std::regex("\n *([|/(])"), " $1"));
+    for (std::string row; std::getline(stream, row);)
+    {
+        const size_t start = row.find_first_not_of(' '), colon = row.find(": ");
+        if (start == std::string::npos)
+            continue;
+        const auto isMeant = [name = "TANDEKOR_" + row.substr(start, colon - start)](const FtmRequest& request)
+        { return request.entry.starts_with(name); };
+        const auto request = std::find_if(FtmRequests().begin(), FtmRequests().end(), isMeant);
+        ASSERT_TRUE(colon != std::string::npos && request != FtmRequests().end()) << row;
+        ExpectAnswers(request->call, row.substr(colon + 1));
     }
 }
 

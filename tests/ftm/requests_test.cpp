@@ -7,38 +7,42 @@ namespace tandekor::test
 namespace
 {
 
-const Call hardware = With(TANDEKOR_FTM_GET_HARDWARE_VERSION), bluetooth = With(TANDEKOR_FTM_GET_BT_PARAM);
 const Call gauge = With(TANDEKOR_FTM_GET_FUEL_GAUGE_VERSION), loop = With(TANDEKOR_FTM_TEST_IRDA_TX_RX, {0xA7, 9});
-const Call power2 = With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {2}), power3 = With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3});
-const Call led = With(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {65535});
-const Call startGps = With(TANDEKOR_FTM_START_AGPS_CTON_MEAS), getGps = With(TANDEKOR_FTM_GET_AGPS_CTON_MEAS);
-const Call clock = With(TANDEKOR_FTM_RTC_START, {32769}), oscillator = With(TANDEKOR_FTM_RTC_OSC_CTRL, {1});
-const Call tracer = With(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), hardwareId = With(TANDEKOR_FTM_GET_HW_ID);
 
-const std::vector<FtmRequest>& Requests()
+using FtmRequestsTest = FtmTest;
+
+}  // namespace
+
+const std::vector<FtmRequest>& FtmRequests()
 {
     static const std::vector<FtmRequest> requests = []
     {
         std::vector<FtmRequest> all = {
-            {hardware, "0A 00 00 00 10 00", "FTM_GET_HARDWARE_VERSION()", 4},
-            {hardwareId, "1D 00 00 00 0E 00", "FTM_GET_HW_ID()", 2},
+            {With(TANDEKOR_FTM_GET_HARDWARE_VERSION), "0A 00 00 00 10 00", "FTM_GET_HARDWARE_VERSION()", 4},
+            {With(TANDEKOR_FTM_GET_HW_ID), "1D 00 00 00 0E 00", "FTM_GET_HW_ID()", 2},
             {With(TANDEKOR_FTM_GET_NAND_FLASH_ID), "0B 00 02 00 0E 00", "FTM_GET_NAND_FLASH_ID()", 2},
             {gauge, "0D 00 00 00 0D 00", "FTM_GET_FUEL_GAUGE_VERSION()"},
-            {bluetooth, "24 00 00 00 0F 00", "FTM_GET_BT_PARAM()", 3},
+            {With(TANDEKOR_FTM_GET_BT_PARAM), "24 00 00 00 0F 00", "FTM_GET_BT_PARAM()", 3},
             {With(TANDEKOR_FTM_CONFIGURE_SWITCH, {254, 255}), "0E 00 03 00 0C 00 FE 00 FF",
              "FTM_CONFIGURE_SWITCH(iSwitchID = 254, iSwitchState = 255)", 0},
-            {power2, "13 00 01 00 0C 00 02", "FTM_SET_LOW_POWER_MODE(iLowPowerMode = 2)"},
-            {power3, "13 00 01 00 0C 00 03", "FTM_SET_LOW_POWER_MODE(iLowPowerMode = 3)", ownProcedure, 20},
+            {With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {2}), "13 00 01 00 0C 00 02",
+             "FTM_SET_LOW_POWER_MODE(iLowPowerMode = 2)"},
+            {With(TANDEKOR_FTM_SET_LOW_POWER_MODE, {3}), "13 00 01 00 0C 00 03",
+             "FTM_SET_LOW_POWER_MODE(iLowPowerMode = 3)", ownProcedure, 20},
             {With(TANDEKOR_FTM_TEST_FTM_PMIC_USB, {2}), "19 00 00 00 0C 00 02", "FTM_TEST_PMIC_USB(iUSB_UART_Mode = 2)",
              0, 3000, "FTM_TEST_FTM_PMIC_USB(iUSB_UART_Mode = 2)"},
             {With(TANDEKOR_FTM_IRDA_ON_OFF, {1}), "0C 00 02 00 0C 00 01", "FTM_IRDA_ON_OFF(iTurnLED_On = 1)", 0},
-            {led, "21 00 02 00 0C 00 FF FF", "FTM_IRDA_HIGH_CURRENT_TEST(iIrdaLength_ms = 65535)", ownProcedure, 68535},
+            {With(TANDEKOR_FTM_IRDA_HIGH_CURRENT_TEST, {65535}), "21 00 02 00 0C 00 FF FF",
+             "FTM_IRDA_HIGH_CURRENT_TEST(iIrdaLength_ms = 65535)", ownProcedure, 68535},
             {loop, "4B 0B 01 80 4A 05 0C 00 0C 00 00 05 0C", "FTM_TEST_IRDA_TX_RX()"},
-            {startGps, "1F 00 00 00 0C 00", "FTM_START_AGPS_CTON_MEAS()"},
-            {getGps, "20 00 00 00 0E 00", "FTM_GET_AGPS_CTON_MEAS()"},
-            {clock, "D5 00 03 00 0D 00 55 01 80", "FTM_RTC_START(bStatus = 85, iTime = 32769)"},
-            {oscillator, "D6 00 02 00 0C 00 55 01", "FTM_RTC_OSC_CTRL(bStatus = 85, bSwitch = 1)"},
-            {tracer, "D9 00 02 00 0C 00 07 FF", "FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
+            {With(TANDEKOR_FTM_START_AGPS_CTON_MEAS), "1F 00 00 00 0C 00", "FTM_START_AGPS_CTON_MEAS()"},
+            {With(TANDEKOR_FTM_GET_AGPS_CTON_MEAS), "20 00 00 00 0E 00", "FTM_GET_AGPS_CTON_MEAS()"},
+            {With(TANDEKOR_FTM_RTC_START, {32769}), "D5 00 03 00 0D 00 55 01 80",
+             "FTM_RTC_START(bStatus = 85, iTime = 32769)"},
+            {With(TANDEKOR_FTM_RTC_OSC_CTRL, {1}), "D6 00 02 00 0C 00 55 01",
+             "FTM_RTC_OSC_CTRL(bStatus = 85, bSwitch = 1)"},
+            {With(TANDEKOR_FTM_TRACER_CONTROL, {7, 255}), "D9 00 02 00 0C 00 07 FF",
+             "FTM_TRACER_CONTROL(bStatus = 7, bSwitch = 255)"},
         };
         for (auto* more : {DataAccessRequests, DisplayCameraAndRadioRequests})
         {
@@ -53,21 +57,18 @@ const std::vector<FtmRequest>& Requests()
                     *text = "TANDEKOR_" + *text;
             }
             if (!request.bytes.starts_with("4B"))
-                request.bytes = "4B 0B 00 80 " + request.bytes;
+                request.bytes
+                    = (request.entry.starts_with("TANDEKOR_GPIO") ? "4B 00 00 01 " : "4B 0B 00 80 ") + request.bytes;
         }
         return all;
     }();
     return requests;
 }
 
-using FtmRequestsTest = FtmTest;
-
-}  // namespace
-
 std::vector<Call> FtmCalls()
 {
     std::vector<Call> calls;
-    for (const FtmRequest& request : Requests())
+    for (const FtmRequest& request : FtmRequests())
         calls.push_back(request.call);
     calls.push_back(With(TANDEKOR_FTM_WRITE_WCDMA_RF_CAL, std::vector<Given>(15, -1)));
     return calls;
@@ -75,7 +76,7 @@ std::vector<Call> FtmCalls()
 
 TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryTextAndAStandardOneClosesWithOneOfThree)
 {
-    for (const FtmRequest& request : Requests())
+    for (const FtmRequest& request : FtmRequests())
     {
         SCOPED_TRACE(request.entry);
         simulator::ForgetLog();
@@ -111,67 +112,49 @@ TEST_F(FtmRequestsTest, EveryRequestGoesOutWholeBehindItsEntryTextAndAStandardOn
 
 TEST_F(FtmRequestsTest, FieldsAreTakenFromTheEndOfTheReplyAsFarAsItGoes)
 {
-    const uint32_t untouched = 0x55555555;
-    ExpectAnswers({
-        {hardware, "00 00 78 56 34 92", 1, {0x92345678}, {done}},
-        {hardware, "FF FF FF 00 00 78 56 34 92", 1, {0x92345678}, {done}},
-        {hardware, "=07 00 01 02 03 04", 0, {0x04030201}, {" - error code = 7"}},
-        {hardware, "=07 01 02 03 04", 1, {0x04030201}, {done}},
-        {hardware, "=07 00 00", 1, {untouched}, {done}},
-        {hardware, "=07 00", 0, {untouched}, {" - error code = 7"}},
-        {hardware, "=07", 1, {untouched}, {done}},
-        {With(TANDEKOR_FTM_GET_NAND_FLASH_ID), "=00 00 34 12", 1, {0x1234}, {done}},
-        {bluetooth, "=05 01 01 02 03", 0, {0x0105, 1, 2, 3}, {" - error code = 261"}},
-        {bluetooth, "=09 01 02 03", 1, {0x5555, 1, 2, 3}, {done}},
-        {bluetooth, "=03", 1, {0x5555, 0x55, 0x55, 3}, {done}},
-    });
+    ExpectAnswers(R"(
+        FTM_GET_HARDWARE_VERSION: 00 00 78 56 34 92 > 1 0x92345678 done | FF FF FF 00 00 78 56 34 92 > 1 0x92345678 done
+        | =07 00 01 02 03 04 > 0 0x04030201 - error code = 7 | =07 01 02 03 04 > 1 0x04030201 done
+        | =07 00 00 > 1 0x55555555 done | =07 00 > 0 0x55555555 - error code = 7 | =07 > 1 0x55555555 done
+        FTM_GET_NAND_FLASH_ID: =00 00 34 12 > 1 0x1234 done
+        FTM_GET_BT_PARAM: =05 01 01 02 03 > 0 0x0105,1,2,3 - error code = 261 | =09 01 02 03 > 1 0x5555,1,2,3 done
+        | =03 > 1 0x5555,85,85,3 done
+    )");
 }
 
 TEST_F(FtmRequestsTest, HardwareIdOfOneBuildNeedsNoRequest)
 {
     simulator::ThePhone().buildId = "M-DraK2F-07";
-    ExpectAnswers({{hardwareId, "", 1, {8}, {"QLIB_DIAG_EXT_BUILD_ID_F()"}}});
+    ExpectAnswers("FTM_GET_HW_ID: > 1 8 QLIB_DIAG_EXT_BUILD_ID_F()");
     simulator::RefuseCall("QLIB_DIAG_EXT_BUILD_ID_F");
-    ExpectAnswers({{hardwareId, "00 00 02 01", 1, {0x0102}, {done}}});
+    ExpectAnswers("FTM_GET_HW_ID: 00 00 02 01 > 1 0x0102 done");
     simulator::ThePhone().buildId = "DraK2";
     simulator::ThePhone().buildModel = "DraK2F";
-    ExpectAnswers({{hardwareId, "00 00 02 01", 1, {0x0102}, {"QLIB_DIAG_EXT_BUILD_ID_F()", done}}});
+    ExpectAnswers("FTM_GET_HW_ID: 00 00 02 01 > 1 0x0102 QLIB_DIAG_EXT_BUILD_ID_F() / done");
 }
 
 TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
 {
-    constexpr uint32_t untouched = 0x55555555;
-    const std::string second = "TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()", refused = " - error code = 5", called = "()";
-    ExpectAnswers({
-        {gauge, "00 00 21", 1, {0x21}, {done}},
-        {gauge, "!", 0, {0x55}, {}},
-        {gauge, "05 00 21;00 00 22", 1, {0x22}, {refused, second, "\t" + second + done}},
-        {gauge, "05 00 21;06 00 22", 0, {0x22}, {refused, second, "\t" + second + " - error code = 6"}},
-        {gauge, "05 00 21;!", 0, {0x21}, {refused, second}},
-        {gauge, "05 00 21;=", 1, {0x21}, {refused, second, "\t" + second + done}},  // the first status counts once
-        {power2, "00 00", 1, {}, {std::string(" ") + done}},
-        {power2, "09 00", 0, {}, {" - error code = 9"}},
-        {power2, "!", 0, {}, {noReply}},
-        {power3, "!", 1, {}, {std::string(" ") + done}},
-        {power3, "00 00", 0, {}, {" - Failure\n"}},
-        {led, "09 00", 1, {0}, {called + done}},
-        {led, "!", 0, {187}, {called + noReply}},
-        {loop, "01 02 03 04;11 00 00 00 22 00 00 80", 1, {0x11, 0x80000022}, {done}},
-        {loop, "!", 0, {untouched, untouched}, {noReply}},
-        {loop, "01 02 03 04;!", 0, {untouched, untouched}, {noReply}},
-        {startGps, "05 81", 1, {0x8105}, {done}},
-        {startGps, "!", 0, {0x5555}, {noReply}},
-        {getGps, "05 00 34 12", 1, {0x1234, 0}, {done}},
-        {getGps, "!", 0, {0x5555, 187}, {noReply}},
-        {clock, "00 34 92 EE FF", 1, {0}, {std::string("(bStatus = 0, iTime = 37428)") + done}},
-        {clock, "07 34 12 EE FF", 0, {7}, {"(bStatus = 7, iTime = 4660) - Wrong status (7)\n"}},
-        {clock, "!", 0, {85}, {" - error code = 187"}},
-        {oscillator, "00 02", 1, {0}, {std::string("(bStatus = 0, bSwitch = 2)") + done}},
-        {oscillator, "07 02", 0, {7}, {"(bStatus = 7, bSwitch = 2) - Wrong status (7) = 0"}},
-        {oscillator, "!", 0, {85}, {" - error code = 187"}},
-        {tracer, "09 00", 1, {}, {done}},
-        {tracer, "!", 0, {}, {" - error code = 187"}},
-    });
+    const std::string second = "TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()", refused = " - error code = 5 / " + second;
+    ExpectAnswers(R"(
+        FTM_SET_LOW_POWER_MODE(iLowPowerMode = 2: 00 00 > 1 -  done | 09 00 > 0 - - error code = 9 | ! > 0 - noReply
+        FTM_SET_LOW_POWER_MODE(iLowPowerMode = 3: ! > 1 -  done | 00 00 > 0 - - Failure\n
+        FTM_IRDA_HIGH_CURRENT_TEST: 09 00 > 1 0 () done | ! > 0 187 () noReply
+        FTM_TEST_IRDA_TX_RX: 01 02 03 04;11 00 00 00 22 00 00 80 > 1 0x11,0x80000022 done
+        | ! > 0 0x55555555*2 noReply | 01 02 03 04;! > 0 0x55555555*2 noReply
+        FTM_START_AGPS_CTON_MEAS: 05 81 > 1 0x8105 done | ! > 0 0x5555 noReply
+        FTM_GET_AGPS_CTON_MEAS: 05 00 34 12 > 1 0x1234,0 done | ! > 0 0x5555,187 noReply
+        FTM_RTC_START: 00 34 92 EE FF > 1 0 (bStatus = 0, iTime = 37428) done
+        | 07 34 12 EE FF > 0 7 (bStatus = 7, iTime = 4660) - Wrong status (7)\n | ! > 0 85 - error code = 187
+        FTM_RTC_OSC_CTRL: 00 02 > 1 0 (bStatus = 0, bSwitch = 2) done
+        | 07 02 > 0 7 (bStatus = 7, bSwitch = 2) - Wrong status (7) = 0 | ! > 0 85 - error code = 187
+        FTM_TRACER_CONTROL: 09 00 > 1 - done | ! > 0 - - error code = 187
+        FTM_GET_FUEL_GAUGE_VERSION: 00 00 21 > 1 0x21 done | ! > 0 0x55)"
+                  // Of two replies the first status counts once.
+                  "| 05 00 21;00 00 22 > 1 0x22"
+                  + refused + " / \\t" + second + " done | 05 00 21;06 00 22 > 0 0x22" + refused + " / \\t" + second
+                  + " - error code = 6 | 05 00 21;! > 0 0x21" + refused + "| 05 00 21;= > 1 0x21" + refused + " / \\t"
+                  + second + " done");
 }
 
 TEST_F(FtmRequestsTest, RequestsThatTheTableDoesNotShow)

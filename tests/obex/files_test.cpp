@@ -37,21 +37,17 @@ protected:
         return With(TANDEKOR_OBEX_SendFile, {folder, name, ""});
     }
 
-    // Sends f to a phone that takes this many packets. The start and the real length of each; and their data.
-    std::vector<std::string> SentPackets(size_t packets, Bytes& data)
+    // Sends f to a phone that takes all. The start and the length of each packet; and their data.
+    std::string SentPackets(Bytes& data)
     {
         simulator::ForgetCalls();
-        for (const Turn& turn : Turns(connected))
-            Replies(Hex(turn.reply));
-        for (size_t i = 0; i < packets; ++i)
-            Replies(Hex("A0 00 03"));
-        Replies(Hex(Packet("done id")));
+        simulator::RepeatReply({Hex(Packet("done 10 00 10 00 id" + who)), 1, {}});
         EXPECT_EQ(SendFrom(hostFolder, "f")(handle).result, 1);
-        std::vector<std::string> sent;
+        std::string sent;
         for (size_t i = 1; i + 1 < CountExchanges(); ++i)
         {
             const Bytes& request = simulator::Exchanges()[i].request;
-            sent.push_back(ToHex({request.begin(), request.begin() + 3}) + ", " + std::to_string(request.size()));
+            sent += ToHex({request.begin(), request.begin() + 3}) + ", " + std::to_string(request.size()) + "; ";
             data.insert(data.end(), request.begin() + (i == 1 ? 41 : 11), request.end());
         }
         return sent;
@@ -61,27 +57,13 @@ protected:
 class TransferTest : public ObexTest
 {
 protected:
-    TransferTest()
-    {
-        EXPECT_EQ(With(TANDEKOR_AT_2_OBEX)(handle).result, 1);
-        simulator::ForgetCalls();
-    }
+    TransferTest() { EXPECT_EQ(With(TANDEKOR_AT_2_OBEX)(handle).result, 1); }
 
     static simulator::SimulatedFile* OnPhone(const std::string& path)
     {
         const auto file = simulator::ThePhone().files.find(path);
         return file == simulator::ThePhone().files.end() ? nullptr : &file->second;
     }
-
-    // The out-arguments of a call that goes well but for these bits.
-    std::vector<Bytes> Outs(const Call& call, uint16_t bits = 0)
-    {
-        const CallResult made = call(handle);
-        EXPECT_EQ(made.result, 1);
-        EXPECT_EQ(made.outs.back(), U16(bits));
-        return made.outs;
-    }
-
     bool Lists(const char* folder, const std::string& line)
     {
         const Bytes listing = Outs(With(TANDEKOR_OBEX_ListDir, {folder, Out{20'000}, U32(20'000)}))[0];
@@ -186,34 +168,26 @@ TEST_F(FileOperationsTest, SmallFileGoesInOnePacketWithItsTime)
 // A packet is as long as it says, also where the file has less for it than was announced.
 TEST_F(FileOperationsTest, PacketsBySizeOfTheFileAndWhatIsLeftOfIt)
 {
-    const std::string full = "02 0F FD, 4093", empty = "82 00 0B, 11";
-    const struct
-    {
-        size_t size, kept;  // kept 0: the file is removed after its first packet
-        std::vector<std::string> packets;
-    } rows[] = {
-        {4051, 4051, {"82 0F FC, 4092"}},
-        {4052, 4052, {"82 0F FD, 4093"}},
-        {4053, 4053, {full, "82 00 0C, 12"}},
-        {4052 + 4082, 4052 + 4082, {full, "82 0F FD, 4093"}},
-        {10'000, 5000, {full, "02 03 BF, 959", empty}},
-        {10'000, 0, {full, "02 00 0B, 11", empty}},
+    // The size, and what is kept after the first packet, which is nothing if the file is removed.
+    const std::tuple<size_t, size_t, const char*> rows[] = {
+        {4051, 4051, "82 0F FC, 4092; "},
+        {4052, 4052, "82 0F FD, 4093; "},
+        {4053, 4053, "02 0F FD, 4093; 82 00 0C, 12; "},
+        {4052 + 4082, 4052 + 4082, "02 0F FD, 4093; 82 0F FD, 4093; "},
+        {10'000, 5000, "02 0F FD, 4093; 02 03 BF, 959; 82 00 0B, 11; "},
+        {10'000, 0, "02 0F FD, 4093; 02 00 0B, 11; 82 00 0B, 11; "},
     };
-    for (const auto& row : rows)
+    for (const auto& [size, kept, packets] : rows)
     {
-        WriteHostFile("f", Noise(row.size));
-        if (row.packets.size() == 3)
-            simulator::BeforeCall("QLIB_SendRAW", 2,
-                                  [&, kept = row.kept]
-                                  {
-                                      if (kept == 0)
-                                          std::filesystem::remove(HostPath("f"));
-                                      else
-                                          std::filesystem::resize_file(HostPath("f"), kept);
-                                  });
+        WriteHostFile("f", Noise(size));
+        const auto cut = [&, left = kept] {
+            left == 0 ? void(std::filesystem::remove(HostPath("f")))
+                      : std::filesystem::resize_file(HostPath("f"), left);
+        };
+        simulator::BeforeCall("QLIB_SendRAW", 2, cut);
         Bytes data;
-        EXPECT_EQ(SentPackets(row.packets.size(), data), row.packets);
-        EXPECT_TRUE(data == Noise(row.kept == 0 ? 4052 : row.kept)) << data.size();
+        EXPECT_EQ(SentPackets(data), packets);
+        EXPECT_TRUE(data == Noise(kept == 0 ? 4052 : kept)) << data.size();
     }
 }
 

@@ -14,13 +14,9 @@ namespace
 
 std::string NewFolder()
 {
-    namespace fs = std::filesystem;
-    std::random_device random;
-    fs::path path;
-    do
-        path = fs::temp_directory_path() / ("tandekor-" + std::to_string(random()));
-    while (!fs::create_directory(path));
-    return path.string() + static_cast<char>(fs::path::preferred_separator);
+    const auto path = std::filesystem::temp_directory_path() / ("tandekor-" + std::to_string(std::random_device()()));
+    EXPECT_TRUE(std::filesystem::create_directory(path));
+    return path.string() + static_cast<char>(std::filesystem::path::preferred_separator);
 }
 
 const std::map<std::string, uint8_t> starts
@@ -126,6 +122,14 @@ void ObexTest::ExpectSessions(const std::vector<Session>& sessions)
         session.turns = InSession(session.turns);
         ExpectTurns(session);
     }
+}
+
+std::vector<Bytes> ObexTest::Outs(const Call& call, uint16_t bits) const
+{
+    const CallResult made = call(handle);
+    EXPECT_EQ(made.result, 1);
+    EXPECT_EQ(made.outs.back(), U16(bits));
+    return made.outs;
 }
 
 void ObexTest::WriteHostFile(const std::string& name, const Bytes& content) const

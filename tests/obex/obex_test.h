@@ -54,6 +54,9 @@ protected:
     // The same between a connect and a disconnect.
     void ExpectSessions(const std::vector<Session>& sessions);
 
+    // The out-arguments of a call that goes well but for these bits.
+    std::vector<Bytes> Outs(const Call& call, uint16_t bits = 0) const;
+
     // Path of a host file, and its content; no file reads as "none".
     std::string HostPath(const std::string& name) const { return hostFolder + name; }
     void WriteHostFile(const std::string& name, const Bytes& content) const;
@@ -63,7 +66,6 @@ protected:
     // Ends in the host's separator, as the library wants it.
     const std::string hostFolder;
     const char* const host = hostFolder.c_str();
-    uint16_t error = 0x5555;
 };
 
 // A file content without a pattern that a wrong offset could hide in, and a part of it as hexadecimal digits.
