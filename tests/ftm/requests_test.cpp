@@ -150,10 +150,12 @@ TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
         FTM_TRACER_CONTROL: 09 00 > 1 - done | ! > 0 - - error code = 187
         FTM_GET_FUEL_GAUGE_VERSION: 00 00 21 > 1 0x21 done | ! > 0 0x55
         | 05 00 21;! > 0 0x21 - error code = 5 / TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()
-        | 05 00 21;00 00 22 > 1 0x22 - error code = 5 / TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() / \tTANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() done
+        | 05 00 21;00 00 22 > 1 0x22 - error code = 5 / TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()
+          / \tTANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() done
         | 05 00 21;06 00 22 > 0 0x22 - error code = 5 / TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()
           / \tTANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() - error code = 6
-        | 05 00 21;= > 1 0x21 - error code = 5 / TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() / \tTANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() done
+        | 05 00 21;= > 1 0x21 - error code = 5 / TANDEKOR_LTM_GET_FUEL_GAUGE_VERSION()
+          / \tTANDEKOR_LTM_GET_FUEL_GAUGE_VERSION() done
     )");
 
     // Their first requests.
