@@ -1,5 +1,6 @@
 // Display, backlights, slider, camera and FM radio.
 #include <algorithm>
+#include <numeric>
 
 #include "tests/ftm/ftm_test.h"
 
@@ -28,20 +29,17 @@ const Call scan = With(TANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF, {Out{1}, Out{1}, Out{1
 const Call programInfo
     = With(TANDEKOR_FTM_FM_RADIO_GET_PROGRAM_INFO, {Out{1}, Out{2}, Out{1}, Out{96}, Out{1}, Out{1}});
 
-std::string BlockRequest(uint8_t subCommand)
+std::string BlockRequest(const char* subCommand)
 {
-    Bytes bytes = Hex("4B 0B 00 80 CA 00 6F 00 6F 00 00");
-    bytes.push_back(subCommand);
-    bytes.resize(111);
-    return ToHex(bytes);
+    return std::string("CA 00 6F 00 6F 00 00 ") + subCommand + ' ' + ToHex(Bytes(99));
 }
 
 // A reply in which each byte is its position, but for the status 0 and these changes.
 std::string Block(const std::vector<std::pair<size_t, uint8_t>>& changes = {})
 {
     Bytes block(111);
-    for (size_t i = 0; i < block.size(); ++i)
-        block[i] = static_cast<uint8_t>(i == 10 ? 0 : i);
+    std::iota(block.begin(), block.end(), uint8_t{0});
+    block[10] = 0;
     for (const auto& [position, byte] : changes)
         block[position] = byte;
     return ToHex(block);
@@ -85,9 +83,9 @@ std::vector<FtmRequest> DisplayCameraAndRadioRequests()
          "FTM_GET_FM_RADIO_ID()"},
         {With(TANDEKOR_FTM_TUNE_FM_RADIO, {8750}), "1C 00 02 00 0C 00 2E 22", "FTM_TUNE_FM_RADIO(iChannel = 8750)"},
         {With(TANDEKOR_FTM_RM_RADIO_RDS_TEST), "22 00 00 00 0C 00", "FTM_RM_RADIO_RDS_TEST()", 0},
-        {scan, BlockRequest(2), "FTM_FM_RADIO_SCAN_RF()", ownProcedure, 20000},
-        {stationInfo, BlockRequest(0), "FTM_FM_RADIO_GET_STATION_INFO()", ownProcedure, 20000},
-        {programInfo, BlockRequest(1), "FTM_FM_RADIO_GET_PROGRAM_INFO()", ownProcedure, 20000},
+        {scan, BlockRequest("02"), "FTM_FM_RADIO_SCAN_RF()", ownProcedure, 20000},
+        {stationInfo, BlockRequest("00"), "FTM_FM_RADIO_GET_STATION_INFO()", ownProcedure, 20000},
+        {programInfo, BlockRequest("01"), "FTM_FM_RADIO_GET_PROGRAM_INFO()", ownProcedure, 20000},
     };
 }
 
@@ -207,8 +205,7 @@ TEST_F(ModelRequestsTest, SliderStateFollowsFromWordAndModelAndTheHintSavesTheQu
         const bool asked = hint < 52 || hint > 55;
         for (size_t i = 0; i <= std::size(words); ++i)
         {
-            SCOPED_TRACE("hint " + std::to_string(hint) + ", version " + std::to_string(version) + ", word "
-                         + std::to_string(i));
+            SCOPED_TRACE(testing::PrintToString(std::tuple(hint, version, i)));
             const bool answers = i < std::size(words);
             if (answers)
                 simulator::ThePhone().factory.slider = words[i];

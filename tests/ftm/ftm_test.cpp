@@ -17,16 +17,11 @@ std::string Expanded(const std::string& text, const std::string& entry, const Nu
         return '\t' + name.substr(0, name.find('(')) + text;
     if (!text.starts_with(' '))
         return text;
-    std::string shown;
-    auto out = outs.begin();
-    std::smatch match;
-    std::string rest = entry;
-    while (out != outs.end() && std::regex_search(rest, match, std::regex("= (85|21845)\\b")))
-    {
-        shown += match.prefix().str() + "= " + std::to_string(*out++);
-        rest = match.suffix();
-    }
-    return '\t' + shown + rest + text;
+    std::string shown = entry;
+    for (const uint32_t out : outs)  // each in the place of the next, where a mark keeps it
+        shown = std::regex_replace(shown, std::regex("= (85|21845)\\b"), "=\a " + std::to_string(out),
+                                   std::regex_constants::format_first_only);
+    return '\t' + std::regex_replace(shown, std::regex("\a"), "") + text;
 }
 
 Texts ExpectedLog(std::string text, const std::string& entry, const Numbers& outs)

@@ -262,16 +262,11 @@ TEST_F(TransferTest, ServerOfThePhoneIsStrict)
     EXPECT_EQ(Answer(Turns(connected)[0].request).substr(0, 35), "A0 00 1F 10 00 10 00" + id);
     EXPECT_EQ(Answer("85 00 0A 02 00" + id), "A0 00 03");
     const std::string malformed[] = {
-        "85 00 0B 02 00" + id,                                  // the packet's length
-        "85 00 11 02 00" + id + " 01 00 08 00 61 00 00",        // a header's length
-        "83 00 0E" + id + " 4C 00 06 32 02 02",                 // a tag's length
-        "85 00 0F 02 00" + id + " 01 00 05 00 61",              // a name without its end
-        "85 00 13 02 00" + id + " 01 00 09 00 61 00 2F 00 00",  // a name with a slash
-        "85 00 05 02 00",                                       // no connection identifier
-        "85 00 0A 01 00" + id,                                  // flags
-        "82 00 12" + id + " 01 00 07 00 61 00 00 49 00 03",     // headers that are none of an operation
-        "83 00 08" + id,                                        // a get that was not begun
-    };
+        // The length of the packet, of a header, of a tag; a name without its end and one with a slash.
+        "85 00 0B 02 00" + id, "85 00 11 02 00" + id + " 01 00 08 00 61 00 00", "83 00 0E" + id + " 4C 00 06 32 02 02",
+        "85 00 0F 02 00" + id + " 01 00 05 00 61", "85 00 13 02 00" + id + " 01 00 09 00 61 00 2F 00 00",
+        // No connection identifier, flags, headers that are none of an operation, a get that was not begun.
+        "85 00 05 02 00", "85 00 0A 01 00" + id, "82 00 12" + id + " 01 00 07 00 61 00 00 49 00 03", "83 00 08" + id};
     for (const std::string& packet : malformed)
         EXPECT_EQ(Answer(packet), "C0 00 03") << packet;
     EXPECT_EQ(Answer("85 00 0A 02 00 CB 00 00 00 02"), "D3 00 03");

@@ -1,5 +1,6 @@
 #include "tests/obex/obex_test.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <map>
@@ -59,11 +60,9 @@ std::string Packet(const std::string& parts)
                 : word == "text" ? Ascii(text)
                                  : Hex(part == "id" ? "CB 00 00 00 05" : part));
     }
+    const Bytes length = Word(packet.size());
     if (counted)
-    {
-        packet[1] = Word(packet.size())[0];
-        packet[2] = Word(packet.size())[1];
-    }
+        std::copy(length.begin(), length.end(), packet.begin() + 1);
     return ToHex(packet);
 }
 
