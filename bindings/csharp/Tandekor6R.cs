@@ -1663,7 +1663,7 @@ public static class Tandekor6R
     /// <param name="iI2C_RegAddrLen">bytes of the register's address, 0 for none</param>
     /// <param name="iI2C_RegAddr">address of the register</param>
     /// <param name="iI2C_DataLen">bytes to read or write</param>
-    /// <param name="piI2C_Data">written by a read, sent by a write. Its first byte is shown in the log before the call, so it holds at least one byte, or is null when there are no data</param>
+    /// <param name="piI2C_Data">written by a read, sent by a write. Its first byte is shown before the call, so it holds at least one byte, or is null when there are no data</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_FTM_I2C_DATA_ACCESS(uint hResourceContext, byte iI2C_AccessType, byte iI2C_SlaveAddr, byte iI2C_RegAddrLen, ushort iI2C_RegAddr, byte iI2C_DataLen, [In, Out] byte[] piI2C_Data);
 
@@ -1678,7 +1678,7 @@ public static class Tandekor6R
     /// <param name="iI2C_RegAddrLen">bytes of the register's address, 0 for none</param>
     /// <param name="iI2C_RegAddr">address of the register</param>
     /// <param name="iI2C_DataLen">bytes to read or write</param>
-    /// <param name="piI2C_Data">written by a read, sent by a write. Its first byte is shown in the log before the call, so it holds at least one byte, or is null when there are no data</param>
+    /// <param name="piI2C_Data">written by a read, sent by a write. Its first byte is shown before the call, so it holds at least one byte, or is null when there are no data</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_FTM_I2C_DATA_ACCESS2(uint hResourceContext, byte iI2C_AccessType, byte iI2C_Selector, byte iI2C_SlaveAddr, byte iI2C_RegAddrLen, ushort iI2C_RegAddr, byte iI2C_DataLen, [In, Out] byte[] piI2C_Data);
 
@@ -2397,7 +2397,7 @@ public static class Tandekor6R
     /// <param name="iH_RNTI">HS-DSCH: identity of the phone</param>
     /// <param name="iNum_HARQ_Processes">HS-DSCH: number of HARQ processes</param>
     /// <param name="bMemPartitionValid">HS-DSCH: 1 if the next argument counts</param>
-    /// <param name="aiMemPartitionInfo">HS-DSCH: partition of the memory, as the host library has it; at least one byte for each HARQ process</param>
+    /// <param name="aiMemPartitionInfo">HS-DSCH: partition of the memory, as the host has it; at least one byte for each HARQ process</param>
     /// <param name="iCPICH_PowerOffset">HS-DPCCH: power offset of the pilot</param>
     /// <param name="iCQI_FeedbackCycle">HS-DPCCH: cycle of the channel quality reports</param>
     /// <param name="iCQI_RepetitionFactor">HS-DPCCH: their repetition</param>

@@ -257,9 +257,8 @@ extern "C"
      * [in]     iI2C_RegAddrLen  bytes of the register's address, 0 for none
      * [in]     iI2C_RegAddr     address of the register
      * [in]     iI2C_DataLen     bytes to read or write
-     * [in,out, or null] piI2C_Data[iI2C_DataLen]  written by a read, sent by a write. Its first byte is shown in the
-     *         log
-     *                           before the call, so it holds at least one byte, or is null when there are no data
+     * [in,out, or null] piI2C_Data[iI2C_DataLen]  written by a read, sent by a write. Its first byte is shown before
+     *                           the call, so it holds at least one byte, or is null when there are no data
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_I2C_DATA_ACCESS(ResourceContext hResourceContext,
                                                                     uint8_t iI2C_AccessType, uint8_t iI2C_SlaveAddr,

@@ -474,9 +474,8 @@ extern "C"
      * [in]  iH_RNTI                     HS-DSCH: identity of the phone
      * [in]  iNum_HARQ_Processes         HS-DSCH: number of HARQ processes
      * [in]  bMemPartitionValid          HS-DSCH: 1 if the next argument counts
-     * [in, or null] aiMemPartitionInfo[TANDEKOR_HOST_VALUE_SIZE]  HS-DSCH: partition of the memory, as the host
-     *         library has it;
-     *                                   at least one byte for each HARQ process
+     * [in, or null] aiMemPartitionInfo[TANDEKOR_HOST_VALUE_SIZE]  HS-DSCH: partition of the memory, as the host has
+     *                                   it; at least one byte for each HARQ process
      * [in]  iCPICH_PowerOffset          HS-DPCCH: power offset of the pilot
      * [in]  iCQI_FeedbackCycle          HS-DPCCH: cycle of the channel quality reports
      * [in]  iCQI_RepetitionFactor       HS-DPCCH: their repetition
