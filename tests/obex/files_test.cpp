@@ -13,6 +13,8 @@ namespace tandekor::test
 namespace
 {
 
+namespace fs = std::filesystem;
+
 // The turns of a Get: the first request, and the same request again for each further reply.
 std::string GetTurns(const std::string& first, const std::string& replies)
 {
@@ -32,17 +34,14 @@ class FileOperationsTest : public ObexTest
 {
 protected:
     Call GetTo(const std::string& folder) { return With(TANDEKOR_OBEX_GetFile, {"", "f", folder}); }
-    Call SendFrom(const std::string& folder, const std::string& name)
-    {
-        return With(TANDEKOR_OBEX_SendFile, {folder, name, ""});
-    }
+    Call Send(const std::string& at, const std::string& name) { return With(TANDEKOR_OBEX_SendFile, {at, name, ""}); }
 
     // Sends f to a phone that takes all. The start and the length of each packet; and their data.
     std::string SentPackets(Bytes& data)
     {
         simulator::ForgetCalls();
         simulator::RepeatReply({Hex(Packet("done 10 00 10 00 id" + who)), 1, {}});
-        EXPECT_EQ(SendFrom(hostFolder, "f")(handle).result, 1);
+        EXPECT_EQ(Send(hostFolder, "f")(handle).result, 1);
         std::string sent;
         for (size_t i = 1; i + 1 < CountExchanges(); ++i)
         {
@@ -104,7 +103,7 @@ TEST_F(FileOperationsTest, GetWritesBodiesToTheHostFileAndLeavesWhatCame)
     for (const std::smatch& row : Rows(rows, "(\\d+) (-|\\w+)"))
     {
         if (row[3] == "none")
-            std::filesystem::remove(HostPath("f"));
+            fs::remove(HostPath("f"));
         ExpectSessions({{GetTo(hostFolder), GetTurns("name:f", row[1]), static_cast<uint16_t>(std::stoi(row[2]))}});
         EXPECT_EQ(HostText("f"), row[3] == "-" ? "" : row[3].str());
     }
@@ -143,14 +142,12 @@ TEST_F(FileOperationsTest, GetGoesOnWhenTheHostFileCannotBeWritten)
 {
     const std::string turns = GetTurns("name:f", "continue body:ab|continue body:cd|done end:");
     const std::string nowhere = HostPath("no such folder/");
-    std::filesystem::create_directory(HostPath("f"));
+    fs::create_directory(HostPath("f"));
     ExpectSessions({{GetTo(hostFolder), turns}, {GetTo(nowhere), turns}});
-    EXPECT_FALSE(std::filesystem::exists(nowhere));
+    EXPECT_FALSE(fs::exists(nowhere));
     // A file that cannot be opened for its second part.
-    std::filesystem::remove(HostPath("f"));
-    const auto replace
-        = [&] { std::filesystem::remove(HostPath("f")), std::filesystem::create_directory(HostPath("f")); };
-    simulator::BeforeCall("QLIB_SendRAW", 3, replace);
+    fs::remove(HostPath("f"));
+    simulator::BeforeCall("QLIB_SendRAW", 3, [&] { fs::remove(HostPath("f")), fs::create_directory(HostPath("f")); });
     ExpectSessions({{GetTo(hostFolder), turns}});
 }
 
@@ -158,11 +155,11 @@ TEST_F(FileOperationsTest, SmallFileGoesInOnePacketWithItsTime)
 {
     WriteHostFile("f.txt", Ascii("0123456789"));
     const std::string start = "last-put id name:f.txt size:";
-    ExpectSessions({{SendFrom(hostFolder, "f.txt"), start + "10 time:20240309T070502 end:0123456789 > done @9000"}});
+    ExpectSessions({{Send(hostFolder, "f.txt"), start + "10 time:20240309T070502 end:0123456789 > done @9000"}});
     // The last second of a year, on a leap day's other side; and nothing to send.
     simulator::TheClock().utcStart = 1735689599;
     WriteHostFile("f.txt", {});
-    ExpectSessions({{SendFrom(hostFolder, "f.txt"), start + "0 time:20241231T235959 end: > done @9000"}});
+    ExpectSessions({{Send(hostFolder, "f.txt"), start + "0 time:20241231T235959 end: > done @9000"}});
 }
 
 // A packet is as long as it says, also where the file has less for it than was announced.
@@ -180,10 +177,8 @@ TEST_F(FileOperationsTest, PacketsBySizeOfTheFileAndWhatIsLeftOfIt)
     for (const auto& [size, kept, packets] : rows)
     {
         WriteHostFile("f", Noise(size));
-        const auto cut = [&, left = kept] {
-            left == 0 ? void(std::filesystem::remove(HostPath("f")))
-                      : std::filesystem::resize_file(HostPath("f"), left);
-        };
+        const auto cut
+            = [&, left = kept] { left == 0 ? void(fs::remove(HostPath("f"))) : fs::resize_file(HostPath("f"), left); };
         simulator::BeforeCall("QLIB_SendRAW", 2, cut);
         Bytes data;
         EXPECT_EQ(SentPackets(data), packets);
@@ -197,17 +192,16 @@ TEST_F(FileOperationsTest, HostPathHasAtMost259Characters)
     const char separator = hostFolder.back();
     const std::string inner = std::string(100, 'd') + separator + std::string(258 - hostFolder.size() - 102, 'd');
     const std::string folder = hostFolder + inner + separator, longest = inner + separator;
-    std::filesystem::create_directories(folder);
+    fs::create_directories(folder);
     WriteHostFile(longest + "f", Ascii("ab"));
-    ExpectSessions({{SendFrom(folder, "f"), "last-put id name:f size:2 time:20240309T070502 end:ab > done @9000"},
+    ExpectSessions({{Send(folder, "f"), "last-put id name:f size:2 time:20240309T070502 end:ab > done @9000"},
                     {GetTo(folder), GetTurns("name:f", "continue body:cd|done end:")}});
     EXPECT_EQ(HostText(longest + "f"), "cd");
 
     // One character more, and many.
     WriteHostFile(longest + "ff", Ascii("ab"));
     for (const std::string& name : {std::string("ff"), std::string(70'000, 'f')})
-        ExpectSessions(
-            {{SendFrom(folder, name), "", 64, 0}, {With(TANDEKOR_OBEX_GetFile, {"", name, folder}), "", 32}});
+        ExpectSessions({{Send(folder, name), "", 64, 0}, {With(TANDEKOR_OBEX_GetFile, {"", name, folder}), "", 32}});
     EXPECT_EQ(HostText(longest + "ff"), "ab");
 }
 
