@@ -128,7 +128,14 @@ uint8_t QLIB_DIAG_KeyPress_ConfigureKeyDetect(ResourceContext hResourceContext, 
 
 uint8_t QLIB_DIAG_KeyPress_ClearQueue(ResourceContext hResourceContext)
 {
-    return OnPhone(hResourceContext, __func__, [](Phone& phone) { phone.keypad.queue.clear(); });
+    const auto clear = [](Phone& phone)
+    {
+        constexpr uint8_t down = 1;
+        phone.keypad.queue.clear();
+        if (phone.keypad.hangingKey != 0)
+            phone.keypad.queue.push_back({phone.keypad.hangingKey, down});
+    };
+    return OnPhone(hResourceContext, __func__, clear);
 }
 
 uint8_t QLIB_DIAG_KeyPress_GetQueueSize(ResourceContext hResourceContext, uint16_t* piKeypressQueueSize)

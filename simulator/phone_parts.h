@@ -71,6 +71,7 @@ struct Keypad
     std::vector<std::pair<uint16_t, uint8_t>> map;  // hardware code and key
     bool detecting = false;
     std::deque<KeyEvent> queue;  // an empty queue reports key 0, event 0
+    uint16_t hangingKey = 0;     // reports itself as soon as the queue was emptied, unless it is 0
 };
 
 struct Bluetooth

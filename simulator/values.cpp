@@ -72,6 +72,7 @@ const PlainValue plainValues[] = {
     {"camera-id", &InPart<&Phone::camera, &Camera::id>},
     {"bluetooth-version", &InPart<&Phone::bluetooth, &Bluetooth::moduleVersion>},
     {"headset-register", &InPart<&Phone::factory, &Factory::headsetRegister>},
+    {"hanging-key", &InPart<&Phone::keypad, &Keypad::hangingKey>},
     {"slider", &InPart<&Phone::factory, &Factory::slider>},
     {"fm-chip", &InPart<&Phone::factory, &Factory::fmChip>},
     {"fm-program", &InPart<&Phone::factory, &Factory::fmProgram>},

@@ -65,12 +65,13 @@ class LineTest(unittest.TestCase):
         self.assertEqual(len(glob.glob(self.path("records/*.log"))), 3)
 
     def test_a_bad_phone_fails_by_its_measures(self):
-        phone = self.path("bad.phone", "set battery 0\nset signal 0\nset registration 3\nset ^SCKA 0\nset +CPAS 5\n")
-        tests = ("battery", "signal", "registration", "SIM-Card", "activity", "adc")
+        phone = self.path("bad.phone", "set battery 0\nset signal 0\nset registration 3\nset ^SCKA 0\nset +CPAS 5\n"
+                          "set hanging-key 42\n")
+        tests = ("battery", "signal", "registration", "SIM-Card", "activity", "adc", "hanging-key")
         output = self.run_line(1, "--phone", phone, *tests)
         for measure in ("battery.charge 0 % [50..100] FAIL", "signal.strength -113 dBm [-95..-51] FAIL",
                         "registration.state denied [home|roaming] FAIL", "sim-card.card no card [present] FAIL",
-                        "activity.state asleep [ready] FAIL", "adc.average 820 [700..900] PASS"):
+                        "activity.state asleep [ready] FAIL", "hanging-key.key 42 [0..0] FAIL", "adc.average 820 [700..900] PASS"):
             self.assertIn(measure, output)
         self.assertIn("bad.phone:1", self.run_line(2, "--phone", self.path("bad.phone", "set batery 0\n")))
 
