@@ -75,7 +75,8 @@ TEST(ProcedureCases, UploadsAndClockReturnTheByteOfTheHostLibrary)
         ThePhone().upload.result = ThePhone().clock.result = 2;
     };
     Expect({
-        {After(resultIs2, With(TANDEKOR_UploadCEFS_File2, {1, 2, 3})), "Q_UploadCEFS_File2()] = 2"},
+        {After(resultIs2, With(TANDEKOR_UploadCEFS_File2, {1, -8, 3})),
+         "(1, " + std::to_string(SIZE_MAX - 7) + ", 3) Q_UploadCEFS_File2()] = 2"},
         {After(resultIs2, With(TANDEKOR_UploadCEFS_File, {1, 2})), "Q_UploadCEFS_File()] = 2"},
         {After(resultIs2, With(TANDEKOR_UploadMultiImage, std::vector<Given>(23, 1))), "Q_UploadMultiImage()] = 2"},
         {After(resultIs2, With(TANDEKOR_SpecialSetRtcActualTime)), "(iReadWrite = 0, iTimeMode = ] = 2"},

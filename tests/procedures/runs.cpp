@@ -285,7 +285,7 @@ std::vector<ProcedureRun> FurtherRuns()
         {"SpecialSwitchAccSupplyVoltage", Sweep(TANDEKOR_SpecialSwitchAccSupplyVoltage, {{0, 1, 77}}),
          BecomePhone(0x40, 8)},
         {"SpecialGetFmRadioInfo", Sweep(TANDEKOR_SpecialGetFmRadioInfo, {{0, 1, 2, 3, 255}})},
-        {"UploadCEFS_File2", {With(TANDEKOR_UploadCEFS_File2, {1, -8, 3})}, qpst},
+        {"UploadCEFS_File2", {With(TANDEKOR_UploadCEFS_File2, {1, INT32_MAX, 3})}, qpst},
         {"UploadCEFS_File", {With(TANDEKOR_UploadCEFS_File, {1, 2})}, qpst},
         {"RX_WCDMA_Adjust with a status", {RxWcdma(4, table, 5, 6, 2)}, SetStatus(0xEA60) + SetStatus(0xEA61)},
         {"NV_WRITE_WCDMA_VGA_GAIN",
