@@ -145,6 +145,7 @@ TEST_F(FtmRequestsTest, CommandsWithAProcedureOfTheirOwn)
         FTM_GET_AGPS_CTON_MEAS: 05 00 34 12 > 1 0x1234,0 done | ! > 0 0x5555,187 noReply
         FTM_RTC_START: 00 34 92 EE FF > 1 0 (bStatus = 0, iTime = 37428) done
         | 07 34 12 EE FF > 0 7 (bStatus = 7, iTime = 4660) - Wrong status (7)\n | ! > 0 85 - error code = 187
+        | = > 0 85 (bStatus = 85, iTime = 0) - Wrong status (85)\n
         FTM_RTC_OSC_CTRL: 00 02 > 1 0 (bStatus = 0, bSwitch = 2) done
         | 07 02 > 0 7 (bStatus = 7, bSwitch = 2) - Wrong status (7) = 0 | ! > 0 85 - error code = 187
         FTM_TRACER_CONTROL: 09 00 > 1 - done | ! > 0 - - error code = 187

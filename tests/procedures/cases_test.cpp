@@ -142,6 +142,7 @@ TEST(ProcedureCases, ItemsRegistersAndReadings)
     };
     Expect({
         {After(SetStatus(453), With(DIAG_NV_WRITE_F, {453, Ascii("a"), 1})), "Q_DIAG_NV_WRITE_F(iNvStatus = 5)!] = 0"},
+        {With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{1}, 0}), "pItemData = , iL"},
         {After(SetStatus(550), With(NV_READ_GSM_RX_REL_OFFSETS, {550, Ascii("abc"), 3})),
          "~(iNvStatus = 5)!] T_DIAG_NV_READ_F(iItemID = 550, pItemData = abc, iLength = 3)!] out - = 0"},
         {After(SetItem(10, "78 00 7A"), With(NV_READ_GSM_RX_REL_OFFSETS, {10, Out{3}, 3})), "pItemData = x, iL"},
