@@ -11,8 +11,7 @@ namespace tandekor
 {
 
 ConnectionRecord::ConnectionRecord(ResourceContext handle)
-    : hResourceContext(handle),
-      bootBoxPort(new (std::nothrow) BootBoxPort),
+    : bootBoxPort(new (std::nothrow) BootBoxPort),
       atChannel(new (std::nothrow) AtChannel(handle)),
       ftmChannel(new (std::nothrow) FtmChannel(handle)),
       obexChannel(new (std::nothrow) ObexChannel(handle))

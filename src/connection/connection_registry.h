@@ -23,7 +23,6 @@ struct ConnectionRecord
     ConnectionRecord(const ConnectionRecord&) = delete;
     ConnectionRecord& operator=(const ConnectionRecord&) = delete;
 
-    ResourceContext hResourceContext;
     int32_t useCount = 1;      // open connects of this handle
     BootBoxPort* bootBoxPort;  // what procedures need of a connection
     AtChannel* atChannel;
@@ -65,8 +64,8 @@ private:
         return found == positions.end() ? nullptr : (*found->second).*service;
     }
 
-    std::list<ConnectionRecord> connections;  // in the order of the connects
-    std::unordered_map<ResourceContext, Position> positions;
+    std::list<ConnectionRecord> connections;                  // in the order of the connects
+    std::unordered_map<ResourceContext, Position> positions;  // of all of them, so that a call finds its own at once
 };
 
 }  // namespace tandekor

@@ -1,7 +1,4 @@
 // The phone's audio path: microphone bias, loopback, tone, PCM capture, and one register of it.
-#include <algorithm>
-#include <iterator>
-
 #include "phone/factory_requests.h"
 #include "platform/qmsl.h"
 #include "procedures/host_word.h"
