@@ -205,6 +205,7 @@ struct Exchange
     Bytes request;
     uint16_t capacity = 0;
     uint32_t timeoutMs = 0;
+    Bytes response = {};  // as far as it was delivered
 };
 const std::vector<Exchange>& Exchanges();
 

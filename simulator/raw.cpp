@@ -55,6 +55,9 @@ uint8_t MakeExchange(const Exchange& exchange, Answer answer, uint16_t* response
     if (response != nullptr)
         std::copy_n(reply.bytes.begin(), delivered, response);
     Put(responseLength, reply.claimedLength.value_or(static_cast<uint16_t>(delivered)));
+    if (auto& exchanges = TheState().calls.exchanges; !exchanges.empty())
+        exchanges.back().response.assign(reply.bytes.begin(),
+                                         reply.bytes.begin() + static_cast<std::ptrdiff_t>(delivered));
     return reply.result;
 }
 

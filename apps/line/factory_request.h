@@ -11,6 +11,13 @@ inline Outcome NotAnswered(const char* function)
     return Failed(function, "no reply, or the phone refused the request");
 }
 
+// A phone's status before a call: it decides as it is where a reply is too short for one.
+inline uint8_t* Unanswered(uint8_t& status)
+{
+    status = 1;
+    return &status;
+}
+
 // The requests of a test, one after the other up to the first that fails.
 struct Requests
 {

@@ -13,21 +13,20 @@ Outcome Pin(Context& context)
 {
     constexpr uint8_t pin = 0;
     const ResourceContext handle = context.handle;
-    uint8_t out = 0, in = 0, enabled = 0, again = 0;
-    uint8_t status = 1;  // decides as it is where a reply is empty
+    uint8_t out = 0, in = 0, enabled = 0, again = 0, status = 0;
     uint8_t function = 0, pull = 0, pullEnabled = 0, direction = 0;
     Requests requests;
-    if (requests.Fails("TANDEKOR_GPIO_GET_OUT", TANDEKOR_GPIO_GET_OUT(handle, pin, &out, &status))
-        || requests.Fails("TANDEKOR_GPIO_GET_IN", TANDEKOR_GPIO_GET_IN(handle, pin, &in, &status))
-        || requests.Fails("TANDEKOR_GPIO_GET_OE", TANDEKOR_GPIO_GET_OE(handle, pin, &enabled, &status))
-        || requests.Fails("TANDEKOR_GPIO_GET_CFG",
-                          TANDEKOR_GPIO_GET_CFG(handle, pin, &function, &pull, &pullEnabled, &direction, &status)))
+    if (requests.Fails("TANDEKOR_GPIO_GET_OUT", TANDEKOR_GPIO_GET_OUT(handle, pin, &out, Unanswered(status)))
+        || requests.Fails("TANDEKOR_GPIO_GET_IN", TANDEKOR_GPIO_GET_IN(handle, pin, &in, Unanswered(status)))
+        || requests.Fails("TANDEKOR_GPIO_GET_OE", TANDEKOR_GPIO_GET_OE(handle, pin, &enabled, Unanswered(status)))
+        || requests.Fails("TANDEKOR_GPIO_GET_CFG", TANDEKOR_GPIO_GET_CFG(handle, pin, &function, &pull, &pullEnabled,
+                                                                         &direction, Unanswered(status))))
         return NotAnswered(requests.last);
-    if (requests.Fails("TANDEKOR_GPIO_SET_OUT", TANDEKOR_GPIO_SET_OUT(handle, pin, out, &status))
-        || requests.Fails("TANDEKOR_GPIO_SET_OE", TANDEKOR_GPIO_SET_OE(handle, pin, enabled, &status))
-        || requests.Fails("TANDEKOR_GPIO_SET_CFG",
-                          TANDEKOR_GPIO_SET_CFG(handle, pin, function, pull, pullEnabled, direction, &status))
-        || requests.Fails("TANDEKOR_GPIO_GET_OUT", TANDEKOR_GPIO_GET_OUT(handle, pin, &again, &status)))
+    if (requests.Fails("TANDEKOR_GPIO_SET_OUT", TANDEKOR_GPIO_SET_OUT(handle, pin, out, Unanswered(status)))
+        || requests.Fails("TANDEKOR_GPIO_SET_OE", TANDEKOR_GPIO_SET_OE(handle, pin, enabled, Unanswered(status)))
+        || requests.Fails("TANDEKOR_GPIO_SET_CFG", TANDEKOR_GPIO_SET_CFG(handle, pin, function, pull, pullEnabled,
+                                                                         direction, Unanswered(status)))
+        || requests.Fails("TANDEKOR_GPIO_GET_OUT", TANDEKOR_GPIO_GET_OUT(handle, pin, &again, Unanswered(status))))
         return NotAnswered(requests.last);
     if (again != out)
         return Failed("TANDEKOR_GPIO_GET_OUT", "pin %u does not keep its level: %u, then %u", pin, out, again);
@@ -59,7 +58,7 @@ Outcome GaugeRegister(Context& context)
     constexpr uint8_t number = 0;
     uint8_t status = 0;
     uint16_t value = 0;
-    if (TANDEKOR_FTM_GG_READ_REG(context.handle, number, &status, &value) == 0)
+    if (TANDEKOR_FTM_GG_READ_REG(context.handle, number, Unanswered(status), &value) == 0)
         return NotAnswered("TANDEKOR_FTM_GG_READ_REG");
     return Done("register %u", number).Add("value", value);
 }

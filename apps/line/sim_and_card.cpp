@@ -40,15 +40,15 @@ Outcome SimMode(Context& context)
 
 Outcome KcFile(Context& context)
 {
-    uint8_t file[9] = {}, again[9] = {};
-    uint8_t status = 1;  // decides as it is where a reply is too short
-    if (TANDEKOR_FTM_SIM_READ_KC_FILE(context.handle, file, &status) == 0)
+    uint8_t file[9] = {}, again[9] = {}, status = 0;
+    if (TANDEKOR_FTM_SIM_READ_KC_FILE(context.handle, file, Unanswered(status)) == 0)
         return NotAnswered("TANDEKOR_FTM_SIM_READ_KC_FILE");
     std::copy(std::begin(file), std::end(file), again);
     Requests requests;
-    if (requests.Fails("TANDEKOR_FTM_SIM_WRITE_KC_FILE", TANDEKOR_FTM_SIM_WRITE_KC_FILE(context.handle, again, &status))
+    if (requests.Fails("TANDEKOR_FTM_SIM_WRITE_KC_FILE",
+                       TANDEKOR_FTM_SIM_WRITE_KC_FILE(context.handle, again, Unanswered(status)))
         || requests.Fails("TANDEKOR_FTM_SIM_READ_KC_FILE",
-                          TANDEKOR_FTM_SIM_READ_KC_FILE(context.handle, again, &status)))
+                          TANDEKOR_FTM_SIM_READ_KC_FILE(context.handle, again, Unanswered(status))))
         return NotAnswered(requests.last);
     if (!std::equal(std::begin(file), std::end(file), again))
         return Failed("", "the Kc file came back changed");

@@ -18,10 +18,11 @@
  *
  * Let the phone echo commands (ATE1): values are read at fixed places of the reply, counted with the echo. Without
  * echo, only places counted from the start are right, and only for commands whose echo has nine bytes (AT+CMUT?);
- * values that are read from the end are not found. Only TANDEKOR_AT_CRSM wants no echo. An unsolicited line (RING,
- * +CREG: ...) before the reply shifts every value, and nothing notices it: switch such lines off first. A reply that is
- * too short for a value reads as the digit 0; a function that returns the reply's characters returns 0xBB for one that
- * is not there, unless it says that a value then stays.
+ * values that are searched from the end are then wrong or stay, and nothing notices it. Only TANDEKOR_AT_CRSM wants no
+ * echo. An unsolicited line (RING, +CREG: ...) before the reply shifts every value, and nothing notices it: switch such
+ * lines off first. A reply that is too short for a value reads as the digit 0; a function that returns the reply's
+ * characters returns 0xBB for one that is not there (0x8B where 0x30 is taken off), unless it says that a value then
+ * stays.
  *
  * In the QPST library mode every function returns 0 and sends nothing. The log gets one text a call, at its start.
  *
@@ -531,7 +532,8 @@ extern "C"
                                                             uint16_t* pStatus);
 
     /*
-     * Operator (+COPS).
+     * Operator (+COPS). A phone without one answers the mode alone: *piFormat is then no small number, and sOper is not
+     * a name (it is "OK").
      *
      * [out] piMode    character less 0x30: 0 automatic, 1 manual, 2 deregistered, 4 manual and then automatic
      * [out] piFormat  character less 0x30: 0 long name, 1 short name, 2 number
@@ -660,7 +662,7 @@ extern "C"
      * Enters a code (+CPIN).
      *
      * [in] sPin     text of digits
-     * [in] sNewPin  new code, of which exactly four characters are sent; may be left out
+     * [in] sNewPin  new code, of which the first four characters are sent; may be left out
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_CPIN(ResourceContext hResourceContext, const char* sPin,
                                                             const char* sNewPin, uint16_t* pStatus);
@@ -815,7 +817,8 @@ extern "C"
 
     /*
      * Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is
-     * checked only if it ends in K or k, also after a failed exchange; else nothing is written.
+     * read only if it ends in K or k, also after a failed exchange; else only *pStatus is written, and that only after
+     * an exchange that worked.
      *
      * [in]  iIndex      place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")
      * [in]  iMaxLength  size of sData
@@ -823,8 +826,9 @@ extern "C"
      * [out] piStat      state as a character, '0' to '3'; '5' for a reply without a comma
      * [out] sData[iMaxLength]  at least one byte. The text from the fifth character after the first comma on (for a
      *                   length of two digits it begins with the line end). At most the smaller of iMaxLength and
-     *                   *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two
-     * is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text
+     *                   *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of
+     *                   the two is 0, nothing is written and there is no NUL; a reply without a comma gives an empty
+     *                   text
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_Set_CMGR(ResourceContext hResourceContext, uint16_t iIndex,
                                                             uint16_t iMaxLength, uint16_t* piLength, uint8_t* piStat,

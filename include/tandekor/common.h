@@ -25,7 +25,7 @@
  *              the phone model go to standard output, where their functions say so. A text is cut to 12291
  *              characters, whatever a caller's own text adds to it.
  * Memory.      Connecting allocates the objects of a connection; no other function of the library allocates. (The C
- *              library may, once, when its calendar is used for the first time.)
+ *              library may, once, when its calendar or standard output is used for the first time.)
  * Widths.      Integers have the width of their type. A flag (prefix b) is 0 or 1 unless a function says more.
  *
  * How arguments are described

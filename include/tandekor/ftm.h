@@ -165,8 +165,7 @@ extern "C"
      * Starts the real-time clock. The time that the phone answers is shown in the log only.
      *
      * [in,out] bStatus  sent with the request; then the phone's status, which decides (0 is success). A reply that is
-     *         too
-     *                   short for it leaves it unchanged, and then the value sent decides
+     *                   too short for it leaves it unchanged, and then the value sent decides
      * [in]     iTime    time to start with, in the phone's unit
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_RTC_START(ResourceContext hResourceContext, uint8_t* bStatus,
@@ -195,8 +194,8 @@ extern "C"
      * The status is the reply's last byte, and the other out-values are written only if it is 0. An empty reply leaves
      * *iStatus unchanged, and that value then decides the result: set it to non-zero before the call.
      *
-     * [in]  iGPIONum  number of the pin
-     * [out] iStatus   0 for success
+     * [in]     iGPIONum  number of the pin
+     * [in,out] iStatus   0 for success
      */
 
     /*
@@ -225,7 +224,7 @@ extern "C"
      * Reads the configuration of a pin.
      *
      * [out] iSelect  function, the phone's number
-     * [out] iPullUD  pull up (1) or down (0)
+     * [out] iPullUD  pull up or down, the phone's number
      * [out] iPullEn  whether the pull is enabled
      * [out] iDir     direction, the phone's number
      */
@@ -237,7 +236,7 @@ extern "C"
      * Sets the configuration of a pin.
      *
      * [in] iSelect  function, the phone's number
-     * [in] iPullUD  pull up (1) or down (0)
+     * [in] iPullUD  pull up or down, the phone's number
      * [in] iPullEn  whether the pull is enabled
      * [in] iDir     direction, the phone's number
      */
@@ -252,7 +251,7 @@ extern "C"
      * TANDEKOR_FTM_I2C_DATA_ACCESS2 also passes a selector on, which the first sends as 0.
      *
      * [in]     iI2C_AccessType  TandekorAccess; other access types send no data and expect none
-     * [in]     iI2C_Selector    selects the bus, the phone's number
+     * [in]     iI2C_Selector    sent as it is; the phone maker's
      * [in]     iI2C_SlaveAddr   address of the device, 7 bits
      * [in]     iI2C_RegAddrLen  bytes of the register's address, 0 for none
      * [in]     iI2C_RegAddr     address of the register
@@ -287,8 +286,7 @@ extern "C"
      *
      * [in]     eNum     number of the register
      * [in,out] sStatus  the phone's status, 0 for success; a reply too short for it leaves it unchanged, and then the
-     *         value
-     *                   sent decides
+     *                   value sent decides
      * [in,out] iValue   content of the register
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_GG_READ_REG(ResourceContext hResourceContext, uint8_t eNum,
@@ -333,11 +331,9 @@ extern "C"
      * Read and write the Kc file of the SIM.
      *
      * [in,out] KC_File[TANDEKOR_FTM_KC_FILE_SIZE]  shown in the log as text and sent by the write; then, also after a
-     *         write,
-     *                   what the reply holds
+     *                   write, what the reply holds
      * [in,out] Status   shown in the log; then the phone's status, 0 for success. A reply that is too short for it
-     *         leaves it
-     *                   unchanged, and then the caller's value decides
+     *                   leaves it unchanged, and then the caller's value decides
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_SIM_READ_KC_FILE(ResourceContext hResourceContext, uint8_t* KC_File,
                                                                      uint8_t* Status);
@@ -348,11 +344,9 @@ extern "C"
      * Reads or writes a file on the memory card.
      *
      * [in]     iAccessType      TandekorAccess; other access types send and read no data
-     * [in]     iMMC_DataLength  bytes to read or write. A write of more than TANDEKOR_FTM_LONGEST_FILE_WRITE is
-     *         refused and
-     *                           nothing is sent. A read of more than the reply holds leaves pData unchanged; the
-     *                           status is
-     *                           then taken from the reply's end
+     * [in]     iMMC_DataLength  bytes to read or write. A write of more than TANDEKOR_FTM_LONGEST_FILE_WRITE is refused
+     *                           and nothing is sent. A read of more than the reply holds leaves pData unchanged; the
+     *                           status is then taken from the reply's end
      * [in]     psFileName       path on the card, as in "\Test.bin", of which the first 128 characters are sent
      * [in,out] pData[iMMC_DataLength]  written by a read, sent by a write
      */
@@ -383,7 +377,7 @@ extern "C"
      * Writes the GSM transmit linearizer of a band.
      *
      * [in] iGSM_Band  the phone's number of the band
-     * [in] iGSM_DACvsPower[TANDEKOR_FTM_LINEARIZER_ENTRIES]  DAC values, from the lowest power on
+     * [in] iGSM_DACvsPower[TANDEKOR_FTM_LINEARIZER_ENTRIES]  DAC values, sent in this order
      * [in] iDelay_ms  how long to wait for the reply, in milliseconds
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(ResourceContext hResourceContext,
@@ -417,7 +411,8 @@ extern "C"
      * Tunes the radio.
      *
      * [in]  iChannel      channel, in the phone's unit
-     * [out] piStatusWord  the last word of whatever arrived, also after a missing reply; 0 and 3 are success
+     * [out] piStatusWord  the last word of whatever arrived, also after a missing reply (if nothing did it is unchanged
+     * or 48059); 0 and 3 are success
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_TUNE_FM_RADIO(ResourceContext hResourceContext, uint16_t iChannel,
                                                                   uint16_t* piStatusWord);
@@ -431,12 +426,12 @@ extern "C"
                                                                       uint16_t* piStatusWord);
 
     /*
-     * Scans for stations, up to 20 seconds. All values but the list are written whatever the status is; a reply shorter
-     * than 111 bytes reads as zeros.
+     * Scans for stations, up to 20 seconds. All values are written whatever the status is, the list only if it is
+     * valid; a reply shorter than 111 bytes reads as zeros.
      *
      * [out] piFmStatus     0 for success
      * [out] piFmScanValid  1 if the list is written
-     * [out] piFmScanCount  entries of the list that are written, at most 48
+     * [out] piFmScanCount  entries of the list, at most 48
      * [out] piFmScanList[TANDEKOR_FTM_SCAN_ENTRIES]  frequencies, in the phone's unit
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF(ResourceContext hResourceContext,
@@ -500,7 +495,7 @@ extern "C"
      * TANDEKOR_FTM_SetKeyPadBackLightGPIO, and another row is also remarked on standard output.
      *
      * [in] rowNumber    1 to 7
-     * [in] backLightOn  1 on, 0 off; another value is refused
+     * [in] backLightOn  1 on, 0 off; another value is refused, unless it is passed on
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_SetKeyPadBackLight(ResourceContext hResourceContext,
                                                                        uint16_t rowNumber, uint8_t backLightOn);

@@ -148,8 +148,8 @@ extern "C"
      * silent.
      *
      * [in] iBootBoxPort  the port with which the phone was switched on in this connection; another number fails after
-     *         the phone
-     *                    has gone offline, and a phone that was switched on by other means cannot be switched off here
+     *                    the phone has gone offline, and a phone that was switched on by other means cannot be switched
+     *                    off here
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_BootBox_SwitchMobileOff(ResourceContext hResourceContext,
                                                                         uint16_t iBootBoxPort);
@@ -216,8 +216,7 @@ extern "C"
      * 3 writes no line.
      *
      * [in] iRowNumber  on the models 52 to 55 the rows 1 to 6, and 7 for all; on model 3 row 7 for the inside keypad
-     *         and 5 for
-     *                  the outside one
+     *                  and 5 for the outside one
      * [in] bOnOff      1 on, 0 off. The outside keypad's drive level, 0 to 15, is 15 times this value cut to a byte
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_SetKeyPadBackLightGPIO(ResourceContext hResourceContext,
@@ -228,8 +227,7 @@ extern "C"
      *
      * [out] pcFlipState     the character '0' or '1'
      * [in]  bSkipModelRead  0; any other value leaves the model unknown, and the call fails as on another model, which
-     *         is said
-     *                       on standard output
+     *                       is said on standard output
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_TestFlip(ResourceContext hResourceContext, char* pcFlipState,
                                                              uint8_t bSkipModelRead);
@@ -312,10 +310,8 @@ extern "C"
      *
      * [in] bStartBatchMode  passed to the host library; the batch is flushed whatever it is
      * [in, or null] Gsm900Range1[16], Gsm900Range2[16], Gsm900Range3[16], Gsm900Range4[16]  gain ranges of GSM 900
-     * [in, or null] Gsm1900Range1[32], Gsm1900Range2[32], Gsm1900Range3[32], Gsm1900Range4[32]  gain ranges of GSM
-     *         1900
-     * [in, or null] Gsm1800Range1[32], Gsm1800Range2[32], Gsm1800Range3[32], Gsm1800Range4[32]  gain ranges of GSM
-     *         1800
+     * [in, or null] Gsm1900Range1[32], Gsm1900Range2[32], Gsm1900Range3[32], Gsm1900Range4[32]  gain ranges of GSM 1900
+     * [in, or null] Gsm1800Range1[32], Gsm1800Range2[32], Gsm1800Range3[32], Gsm1800Range4[32]  gain ranges of GSM 1800
      * [in, or null] Gsm850Range1[16], Gsm850Range2[16], Gsm850Range3[16], Gsm850Range4[16]  gain ranges of GSM 850
      * [in] eNvBand     TandekorWcdmaBand of the LNA offsets
      * [in] iOffset1, iOffset2, iOffset3  LNA offsets
@@ -401,7 +397,7 @@ extern "C"
      * [in]  iAverageCount        readings for the first value; 0 returns 0 with a first value of 0.0
      * [out] pdFirstValue         average of the first ADC channel
      * [in]  iSecondAverageCount  readings for the others; 0 returns 0 with the first value measured and the others
-     *         255.0
+     *                            255.0
      * [out] pdThirdValue         third channel; mind that its pointer stands before the second's
      * [out] pdSecondValue        second channel
      */
@@ -637,8 +633,7 @@ extern "C"
      * Empties the queue of key events and reads its size and the next event. There is no wait for a key.
      *
      * [out] piKeypressQueueSize  events in the queue just after it was emptied
-     * [out] piKeyPressID         key, by the software identifier of the loaded map (its ASCII code for 0 to 9, * and
-     *         #)
+     * [out] piKeyPressID         key, by the software identifier of the loaded map (its ASCII code for 0 to 9, * and #)
      * [out] piKeyPressEvent      whether the key went down or up, the host library's number
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_TestKeypad(ResourceContext hResourceContext,
@@ -744,8 +739,7 @@ extern "C"
      * Reads the IMEI.
      *
      * [out] sImei[TANDEKOR_IMEI_TEXT_SIZE]  15 digits and a NUL; empty if the phone refuses the item, and untouched if
-     *         the
-     *                                       exchange fails
+     *                                       the exchange fails
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_NV_READ_IMEI(ResourceContext hResourceContext, char* sImei);
 
@@ -763,10 +757,9 @@ extern "C"
      * the host library's byte of the last command. The steps are logged in words of their own; nothing of the key is.
      *
      * [in] pExpectedImei[TANDEKOR_IMEI_SIZE]            08, then 15 digits as half-bytes, the first over an A: 8A 21
-     *         43 ...
-     * [in] pExpectedBtAddress[TANDEKOR_BT_ADDRESS_SIZE] last byte of the address first
-     * [in] pExpectedSerial[TANDEKOR_SERIAL_NUMBER_SIZE] as the phone stores it
-     * [in] pPublicKey[TANDEKOR_PUBLIC_KEY_SIZE]         the key that is written
+     * ... [in] pExpectedBtAddress[TANDEKOR_BT_ADDRESS_SIZE] last byte of the address first [in]
+     * pExpectedSerial[TANDEKOR_SERIAL_NUMBER_SIZE] as the phone stores it [in] pPublicKey[TANDEKOR_PUBLIC_KEY_SIZE] the
+     * key that is written
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext,
                                                                   const uint8_t* pExpectedImei,
@@ -804,7 +797,7 @@ extern "C"
      * Information of the radio chip.
      *
      * [in]  eFmData    TandekorFmData: 0 asks for a number 0 to 15, 1 and 2 for a bit; any other value fails after the
-     *         exchange
+     *                  exchange
      * [out] pcFmValue  the answer, TANDEKOR_FM_DATA_NONE when there is none; not written if the phone does not answer
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_SpecialGetFmRadioInfo(ResourceContext hResourceContext, uint8_t eFmData,

@@ -1,5 +1,4 @@
-// A forward-only cursor over a reply. Past the end it reads NUL, which is neither a digit nor any byte that parsers
-// look for.
+// A forward-only cursor over a reply. Past the end it reads NUL, which is no digit, sign or letter.
 #pragma once
 
 #include <algorithm>

@@ -19,7 +19,7 @@ constexpr uint32_t blockTimeMs = 20000;
 
 constexpr size_t mostScanEntries = 48;
 
-// A reply block, zero past the end of a short reply.
+// A reply block; zero throughout after a reply that is too short.
 struct FmReply
 {
     static constexpr size_t size = 111;

@@ -20,6 +20,7 @@ struct Course
     CallResult result;
     std::vector<std::string> log;
     std::vector<std::string> calls;
+    std::vector<simulator::Exchange> exchanges;
 };
 
 Bytes Noise()
@@ -31,22 +32,19 @@ Bytes Noise()
     return bytes;
 }
 
-// In the place of what the phone replies.
-const std::vector<simulator::Reply>& WrongReplies()
+// In the place of what the phone replies: its reply cut at each byte as far as headers and fields reach, and others.
+std::vector<simulator::Reply> WrongReplies(const Bytes& right)
 {
-    static const std::vector<simulator::Reply> replies = []
+    std::vector<simulator::Reply> all;
+    for (const Bytes& bytes : {Bytes{}, Bytes{0xA0}, Bytes(4096, '7'), Bytes(4096, 0xA0), Bytes(4096, 0x90), Noise()})
     {
-        std::vector<simulator::Reply> all;
-        for (const Bytes& bytes :
-             {Bytes{}, Bytes{0xA0}, Bytes(4096, '7'), Bytes(4096, 0xA0), Bytes(4096, 0x90), Noise()})
-        {
-            all.push_back({bytes, 1, {}});
-            all.push_back({bytes, 1, 0xFFFF});
-            all.push_back({bytes, 0, {}});
-        }
-        return all;
-    }();
-    return replies;
+        all.push_back({bytes, 1, {}});
+        all.push_back({bytes, 1, 0xFFFF});
+        all.push_back({bytes, 0, {}});
+    }
+    for (size_t length = 1; length < std::min<size_t>(right.size(), 64); ++length)
+        all.push_back({Bytes(right.begin(), right.begin() + static_cast<std::ptrdiff_t>(length)), 1, {}});
+    return all;
 }
 
 // Addresses of buffers differ from run to run.
@@ -97,7 +95,7 @@ protected:
         simulator::ForgetCalls();
         simulator::ThePhone().mode = simulator::Mode::Ftm;
         disturb();
-        Course run{call(handle), WithoutDigits(Log()), {}};
+        Course run{call(handle), WithoutDigits(Log()), {}, simulator::Exchanges()};
         for (const std::string& text : simulator::Calls())
             run.calls.push_back(text.substr(0, text.find('(')));
         return run;
@@ -232,6 +230,7 @@ TEST_F(EveryFunctionTest, NoDisturbedHostCallIsFeltByTheNextCallOfTheFunction)
         SCOPED_TRACE(function.name);
         const Call call = BestCall(function);
         const Course undisturbed = Make(call);
+        auto exchange = undisturbed.exchanges.begin();
         for (size_t n = 1; n <= undisturbed.calls.size() && !HasFailure(); ++n)
         {
             const int number = static_cast<int>(n);
@@ -243,7 +242,7 @@ TEST_F(EveryFunctionTest, NoDisturbedHostCallIsFeltByTheNextCallOfTheFunction)
                 continue;
             const auto ofThisKind
                 = std::count(undisturbed.calls.begin(), undisturbed.calls.begin() + number, operation);
-            for (const simulator::Reply& reply : WrongReplies())
+            for (const simulator::Reply& reply : WrongReplies((exchange++)->response))
             {
                 const auto answer = [&reply] { simulator::QueueReply(reply); };
                 ExpectRecovery(call, undisturbed,
