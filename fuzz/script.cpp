@@ -1,5 +1,6 @@
 // What reads texts and bytes in the simulator: scripts, the AT side, the file server, the factory requests. An input is
 // of parts, each with a letter for its reader, the number of its bytes, low byte first, and the bytes.
+// Inputs of up to 1024 bytes.
 #include <algorithm>
 
 #include "fuzz/support/input.h"

@@ -1,7 +1,6 @@
 // Facility locks, PIN and the files of the SIM card.
-#include <cstdlib>
-
 #include "simulator/at.h"
+#include "simulator/values.h"
 
 namespace simulator
 {
@@ -84,7 +83,7 @@ std::string AnswerCardAccess(const AtCommand& command)
     if (fields[0] != readBinary)
         return Answer(std::string("+CRSM: ") + unknownInstruction);
     const auto& files = ThePhone().card.files;
-    const auto file = files.find(static_cast<uint16_t>(std::atoi(FieldAt(fields, 1, "0").c_str())));
+    const auto file = files.find(static_cast<uint16_t>(NumberIn(FieldAt(fields, 1, "0"), 0, UINT16_MAX).value_or(0)));
     if (file == files.end())
         return Answer(std::string("+CRSM: ") + fileNotFound);
     return Answer(std::string("+CRSM: ") + normalEnd + ',' + Quoted(file->second));

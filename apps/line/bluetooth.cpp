@@ -35,7 +35,7 @@ Outcome Carrier(Context& context)
 {
     const uint8_t channel = context.options.radio.channelBluetooth;
     if (TANDEKOR_SetCWPowerBluetooth(context.handle, channel) == 0)
-        return Failed("TANDEKOR_SetCWPowerBluetooth", "no carrier");
+        return Failed("TANDEKOR_SetCWPowerBluetooth", "the carrier was not switched on");
     return Done("on channel %u, then reset", channel);
 }
 

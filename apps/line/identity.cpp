@@ -125,7 +125,7 @@ Outcome Freeze(Context& context)
                                    key.bytes.data())
         == 0)
         return Failed("TANDEKOR_DIAG_FREEZE_PHONE", "the phone is not frozen");
-    return Passed("frozen for ever");
+    return Passed("frozen, which cannot be undone");
 }
 
 constexpr Test tests[] = {

@@ -23,7 +23,7 @@ Outcome HangingKey(Context& context)
     uint16_t key = 0;
     uint8_t event = 0;
     if (TANDEKOR_TestKeypad(context.handle, &size, &key, &event) == 0)
-        return Failed("TANDEKOR_TestKeypad", "no key events");
+        return Failed("TANDEKOR_TestKeypad", "the key queue could not be read");
     return Done("%s", "").Add("key", key).Add("queue", size);
 }
 

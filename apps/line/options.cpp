@@ -16,9 +16,7 @@ namespace tandekor::line
 namespace
 {
 
-CLI::Validator Between(double low, double high) { return CLI::Range(low, high).description(""); }
-
-CLI::Validator NumberUpTo(uint32_t most) { return CLI::Range(uint32_t{0}, most).description(""); }
+CLI::Validator Between(uint32_t low, uint32_t high) { return CLI::Range(low, high).description(""); }
 
 // Becomes part of texts and file names.
 CLI::Validator PlainName()
@@ -134,11 +132,11 @@ void AddRunOptions(CLI::App& app, Options& options)
         ->check(Between(1, 100000));
     app.add_option("--retry", options.retry, "How often a failed test is tried again")
         ->type_name("N")
-        ->check(NumberUpTo(100));
+        ->check(Between(0, 100));
     app.add_flag("--stop-on-fail", options.stopOnFail, "Run no further test after a failed one");
     app.add_option("--time-limit", options.timeLimit, "Seconds in which each test has to end; 0 is any time")
         ->type_name("S")
-        ->check(NumberUpTo(86400));
+        ->check(Between(0, 86400));
     app.add_option("--records", options.recordFolder, "Folder of the records")->type_name("FOLDER");
     app.add_option("--summary", options.summaryFolder, "Show what the records of a folder say together; run no test")
         ->type_name("FOLDER")
@@ -169,7 +167,10 @@ void AddStationOptions(CLI::App& app, Options& options)
 void AddRadioOptions(CLI::App& app, RadioValues& radio)
 {
     const auto add = [&app](const char* name, auto& value, const char* description, uint32_t most)
-    { app.add_option(name, value, description)->type_name("N")->check(NumberUpTo(most))->group("Radio"); };
+    {
+        CLI::Option* option = app.add_option(name, value, description)->type_name("N")->group("Radio");
+        option->check(Between(0, most))->default_str(std::to_string(value));  // a uint8_t is a number
+    };
     add("--gsm-mode", radio.modeGsm, "GSM mode, as the host library counts", UINT16_MAX);
     add("--gsm-band", radio.bandGsm, "GSM band", UINT8_MAX);
     add("--gsm-channel", radio.channelGsm, "GSM channel", 1023);
@@ -227,11 +228,11 @@ void AddOptionsOfEachTest(CLI::App& app, Options& options)
             const std::string name = test.name;
             app.add_option_function<uint32_t>(
                    "--retry." + name, [&options, name](const uint32_t& value) { options.retries[name] = value; })
-                ->check(NumberUpTo(100))
+                ->check(Between(0, 100))
                 ->group(notShown);
             app.add_option_function<uint32_t>("--time-limit." + name, [&options, name](const uint32_t& value)
                                               { options.timeLimits[name] = value; })
-                ->check(NumberUpTo(86400))
+                ->check(Between(0, 86400))
                 ->group(notShown);
             for (const Quantity& quantity : test.measures)
             {

@@ -30,7 +30,7 @@ Outcome StartLog(Context& context)
 {
     const std::string& file = context.run.logFile;
     if (TANDEKOR_Start_LOG(context.handle, file.c_str()) == 0)
-        return Failed("TANDEKOR_Start_LOG", "no log");
+        return Failed("TANDEKOR_Start_LOG", "the log was not started: %s", file.c_str());
     std::error_code error;
     if (std::filesystem::file_size(file, error) == 0 || error)
         return Failed("", "the log cannot be written: %s", file.c_str());

@@ -22,7 +22,7 @@ enum class Verdict
     NotRun      // the run ended earlier
 };
 
-// Either bound may be missing. A text is compared whole.
+// Either bound may be missing. A text is compared whole, with each of the alternatives that | separates.
 struct Limit
 {
     std::optional<double> low;

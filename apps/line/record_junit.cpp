@@ -28,6 +28,24 @@ std::string Counts(int64_t tests, int64_t failures, int64_t errors, uint64_t dur
 bool IsFailed(const TestRecord& test) { return test.verdict == Verdict::Failed; }
 bool IsSkipped(const TestRecord& test) { return test.verdict != Verdict::Passed && !IsFailed(test); }
 
+std::string Shown(const TestRecord& test, const Measure& measure)
+{
+    return FullName(test, measure) + " " + ValueText(measure) + " [" + LimitText(measure.limit, measure.unit) + "] "
+           + VerdictShown(measure.verdict);
+}
+
+// What the test says itself, else the measures that its limits refused.
+std::string Reason(const TestRecord& test)
+{
+    std::string reason = test.text;
+    for (const Measure& measure : test.measures)
+    {
+        if (measure.verdict == Verdict::Failed)
+            reason += (reason.empty() ? "" : ", ") + Shown(test, measure);
+    }
+    return reason;
+}
+
 std::string Case(const TestRecord& test)
 {
     std::string xml = "  <testcase" + Attribute("classname", test.group) + Attribute("name", test.name)
@@ -36,12 +54,11 @@ std::string Case(const TestRecord& test)
         xml += "   <skipped" + Attribute("message", std::string{VerdictShown(test.verdict)} + ": " + test.text)
                + "/>\n";
     if (IsFailed(test))
-        xml += "   <failure" + Attribute("message", test.text) + Attribute("type", test.failedFunction) + ">"
+        xml += "   <failure" + Attribute("message", Reason(test)) + Attribute("type", test.failedFunction) + ">"
                + Escaped(test.failedStep) + "</failure>\n";
     std::string output;
     for (const Measure& measure : test.measures)
-        output += FullName(test, measure) + " " + ValueText(measure) + " [" + LimitText(measure.limit, measure.unit)
-                  + "] " + std::string{VerdictShown(measure.verdict)} + "\n";
+        output += Shown(test, measure) + "\n";
     for (const std::string& line : test.logLines)
         output += line + "\n";
     if (!output.empty())

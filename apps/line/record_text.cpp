@@ -156,7 +156,7 @@ std::string LimitText(const Limit& limit, const std::string& unit)
 {
     const std::string tail = unit.empty() ? "" : " " + unit;
     if (limit.text)
-        return "exactly \"" + *limit.text + "\"";
+        return (limit.text->find('|') == std::string::npos ? "exactly \"" : "one of \"") + *limit.text + "\"";
     if (limit.low && limit.high)
         return *limit.low == *limit.high ? "exactly " + NumberText(*limit.low) + tail
                                          : NumberText(*limit.low) + " to " + NumberText(*limit.high) + tail;

@@ -46,7 +46,8 @@ std::string FirstFailure(const std::vector<std::string>& lines)
 {
     for (const std::string& line : lines)
     {
-        if (Holds(line, " - Failure") || Holds(line, "SendSync() fail") || Holds(line, " - error code"))
+        if (Holds(line, " - Failure") || Holds(line, "SendSync() fail") || Holds(line, " - error code")
+            || Holds(line, " - Wrong "))
             return line.substr(std::min(line.find_first_not_of(" \t"), line.size()));
     }
     return "";

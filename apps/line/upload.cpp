@@ -43,7 +43,7 @@ Outcome Upload(Context& context)
                       percent < 0 ? 0 : percent, told.status);
     if (TANDEKOR_GetLibraryMode() != 0)
         return Failed("TANDEKOR_GetLibraryMode", "the host library stays in its QPST mode");
-    return Done("complete, last status %u, told %d times", told.status, told.reports);
+    return Done("complete, last status %u, %d progress reports", told.status, told.reports);
 }
 
 std::string MissingImage(const Options& options)

@@ -895,7 +895,8 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_AT_Get_SIFS(uint hResourceContext, ref byte piKind, ref ushort pStatus);
 
     /// <summary>
-    /// Operator (+COPS).
+    /// Operator (+COPS). A phone without one answers the mode alone: *piFormat is then no small number, and sOper is not
+    /// a name (it is "OK").
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="piMode">character less 0x30: 0 automatic, 1 manual, 2 deregistered, 4 manual and then automatic</param>
@@ -1072,7 +1073,7 @@ public static class Tandekor6R
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="sPin">text of digits</param>
-    /// <param name="sNewPin">new code, of which exactly four characters are sent; may be left out</param>
+    /// <param name="sNewPin">new code, of which the first four characters are sent; may be left out</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_Set_CPIN(uint hResourceContext, [MarshalAs(UnmanagedType.LPStr)] string sPin, [MarshalAs(UnmanagedType.LPStr)] string sNewPin, ref ushort pStatus);
@@ -1195,7 +1196,7 @@ public static class Tandekor6R
     /// <param name="pData">bytes of the values 1 to 9 up to a NUL (not characters), sent after a comma; '-' for none</param>
     /// <param name="piSw1">first status word of the card</param>
     /// <param name="piSw2">second status word of the card</param>
-    /// <param name="sResponse">the card's answer with its closing quote, no NUL</param>
+    /// <param name="sResponse">the card's answer with its closing quote, no NUL; clear it before, since a reply that ends early writes nothing</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_CRSM(uint hResourceContext, byte iCommand, int iFileId, int iP1, int iP2, int iP3, [In] byte[] pData, ref uint piSw1, ref uint piSw2, [In, Out] byte[] sResponse, ref ushort pStatus);
@@ -1232,32 +1233,30 @@ public static class Tandekor6R
 
     /// <summary>
     /// Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is
-    /// checked only if it ends in K or k, also after a failed exchange; else nothing is written.
-    ///
-    /// is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text
+    /// read only if it ends in K or k, also after a failed exchange; else only *pStatus is written, and that only after
+    /// an exchange that worked.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iIndex">place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")</param>
     /// <param name="iMaxLength">size of sData</param>
-    /// <param name="piLength">length as the reply states it; 0 for a reply without a comma</param>
-    /// <param name="piStat">state as a character, '0' to '3'; '5' for a reply without a comma</param>
-    /// <param name="sData">at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two</param>
+    /// <param name="piLength">length as the reply states it, modulo 65536; 0 for a reply without a comma</param>
+    /// <param name="piStat">the character before the comma, a state '0' to '3'; '5' for a reply without a comma</param>
+    /// <param name="sData">at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_Set_CMGR(uint hResourceContext, ushort iIndex, ushort iMaxLength, ref ushort piLength, ref byte piStat, [In, Out] byte[] sData, ref ushort pStatus);
 
     /// <summary>
     /// Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is
-    /// checked only if it ends in K or k, also after a failed exchange; else nothing is written.
-    ///
-    /// is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text
+    /// read only if it ends in K or k, also after a failed exchange; else only *pStatus is written, and that only after
+    /// an exchange that worked.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iIndex">place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")</param>
     /// <param name="iMaxLength">size of sData</param>
-    /// <param name="piLength">length as the reply states it; 0 for a reply without a comma</param>
-    /// <param name="piStat">state as a character, '0' to '3'; '5' for a reply without a comma</param>
-    /// <param name="sData">at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two</param>
+    /// <param name="piLength">length as the reply states it, modulo 65536; 0 for a reply without a comma</param>
+    /// <param name="piStat">the character before the comma, a state '0' to '3'; '5' for a reply without a comma</param>
+    /// <param name="sData">at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text</param>
     /// <param name="pStatus">how the reply ended (TandekorAtStatus)</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_AT_Set_SMGR(uint hResourceContext, ushort iIndex, ushort iMaxLength, ref ushort piLength, ref byte piStat, [In, Out] byte[] sData, ref ushort pStatus);
@@ -1312,13 +1311,11 @@ public static class Tandekor6R
 
     /// <summary>
     /// Fetches the listing of a folder, an XML text (x-obex/folder-listing).
-    ///
-    /// stays
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="psPhoneFolder">folder on the phone</param>
     /// <param name="pListing">the listing, without a NUL after it. One that is larger than the buffer gives TANDEKOR_OBEX_LISTING_TOO_LARGE, and the buffer may hold its beginning</param>
-    /// <param name="piListingSize">size of the buffer; then the length of the listing. If the listing is too large, or the transfer fails after the phone has announced a size, it is that size; without one it</param>
+    /// <param name="piListingSize">size of the buffer; then the length of the listing. If the listing is too large, or the transfer fails after the phone has announced a size, it is that size; without one it is unchanged</param>
     /// <param name="piObexError">a sum of the bits of TandekorObexError, 0 if all went well</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_OBEX_ListDir(uint hResourceContext, [MarshalAs(UnmanagedType.LPStr)] string psPhoneFolder, [In, Out] byte[] pListing, ref uint piListingSize, ref ushort piObexError);
@@ -1412,7 +1409,7 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_OBEX_SetAttr(uint hResourceContext, [MarshalAs(UnmanagedType.LPStr)] string psPhoneFolder, [MarshalAs(UnmanagedType.LPStr)] string psFileName, uint iFirstPermissions, uint iSecondPermissions, ref ushort piObexError);
 
     /// <summary>
-    /// The free space of the phone.
+    /// The free space of the phone. A reply that does not fit its own length gives TANDEKOR_OBEX_FREE_SPACE_FAILED.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="piFreeSpace">in the phone's unit; written if the phone reports it</param>
@@ -1633,7 +1630,7 @@ public static class Tandekor6R
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iGPIONum">number of the pin</param>
     /// <param name="iSelect">function, the phone's number</param>
-    /// <param name="iPullUD">pull up (1) or down (0)</param>
+    /// <param name="iPullUD">pull up or down, the phone's number</param>
     /// <param name="iPullEn">whether the pull is enabled</param>
     /// <param name="iDir">direction, the phone's number</param>
     /// <param name="iStatus">0 for success</param>
@@ -1646,7 +1643,7 @@ public static class Tandekor6R
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iGPIONum">number of the pin</param>
     /// <param name="iSelect">function, the phone's number</param>
-    /// <param name="iPullUD">pull up (1) or down (0)</param>
+    /// <param name="iPullUD">pull up or down, the phone's number</param>
     /// <param name="iPullEn">whether the pull is enabled</param>
     /// <param name="iDir">direction, the phone's number</param>
     /// <param name="iStatus">0 for success</param>
@@ -1673,7 +1670,7 @@ public static class Tandekor6R
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iI2C_AccessType">TandekorAccess; other access types send no data and expect none</param>
-    /// <param name="iI2C_Selector">selects the bus, the phone's number</param>
+    /// <param name="iI2C_Selector">sent as it is; the phone maker's</param>
     /// <param name="iI2C_SlaveAddr">address of the device, 7 bits</param>
     /// <param name="iI2C_RegAddrLen">bytes of the register's address, 0 for none</param>
     /// <param name="iI2C_RegAddr">address of the register</param>
@@ -1797,7 +1794,7 @@ public static class Tandekor6R
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iGSM_Band">the phone's number of the band</param>
-    /// <param name="iGSM_DACvsPower">DAC values, from the lowest power on</param>
+    /// <param name="iGSM_DACvsPower">DAC values, sent in this order</param>
     /// <param name="iDelay_ms">how long to wait for the reply, in milliseconds</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_FTM_WRITE_GSM_TX_LINEARIZER(uint hResourceContext, byte iGSM_Band, [In] ushort[] iGSM_DACvsPower, ushort iDelay_ms);
@@ -1837,7 +1834,7 @@ public static class Tandekor6R
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="iChannel">channel, in the phone's unit</param>
-    /// <param name="piStatusWord">the last word of whatever arrived, also after a missing reply; 0 and 3 are success</param>
+    /// <param name="piStatusWord">the last word of whatever arrived, also after a missing reply (if nothing did it is unchanged or 48059); 0 and 3 are success</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_FTM_TUNE_FM_RADIO(uint hResourceContext, ushort iChannel, ref ushort piStatusWord);
 
@@ -1850,13 +1847,13 @@ public static class Tandekor6R
     public static extern byte TANDEKOR_FTM_RM_RADIO_RDS_TEST(uint hResourceContext, ref ushort piStatusWord);
 
     /// <summary>
-    /// Scans for stations, up to 20 seconds. All values but the list are written whatever the status is; a reply shorter
-    /// than 111 bytes reads as zeros.
+    /// Scans for stations, up to 20 seconds. All values are written whatever the status is, the list only if it is
+    /// valid; a reply shorter than 111 bytes reads as zeros.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="piFmStatus">0 for success</param>
     /// <param name="piFmScanValid">1 if the list is written</param>
-    /// <param name="piFmScanCount">entries of the list that are written, at most 48</param>
+    /// <param name="piFmScanCount">entries of the list, at most 48</param>
     /// <param name="piFmScanList">frequencies, in the phone's unit</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_FTM_FM_RADIO_SCAN_ALL_RF(uint hResourceContext, ref byte piFmStatus, ref byte piFmScanValid, ref byte piFmScanCount, [In, Out] ushort[] piFmScanList);
@@ -1940,7 +1937,7 @@ public static class Tandekor6R
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
     /// <param name="rowNumber">1 to 7</param>
-    /// <param name="backLightOn">1 on, 0 off; another value is refused</param>
+    /// <param name="backLightOn">1 on, 0 off; another value is refused, unless it is passed on</param>
     [DllImport(Library, CallingConvention = CallingConvention.Cdecl)]
     public static extern byte TANDEKOR_FTM_SetKeyPadBackLight(uint hResourceContext, ushort rowNumber, byte backLightOn);
 
@@ -2679,7 +2676,7 @@ public static class Tandekor6R
     /// the host library's byte of the last command. The steps are logged in words of their own; nothing of the key is.
     /// </summary>
     /// <param name="hResourceContext">handle of the connection</param>
-    /// <param name="pExpectedImei">08, then 15 digits as half-bytes, the first over an A: 8A 21 43 ...</param>
+    /// <param name="pExpectedImei">08, then 15 digits as half-bytes, the first over an A: 8A 21</param>
     /// <param name="pExpectedBtAddress">last byte of the address first</param>
     /// <param name="pExpectedSerial">as the phone stores it</param>
     /// <param name="pPublicKey">the key that is written</param>

@@ -64,7 +64,11 @@ const std::string& HostFolder()
 {
     struct Folder
     {
-        Folder() { std::filesystem::create_directory(path); }
+        Folder()
+        {
+            std::filesystem::create_directory(path);
+            std::ofstream(path + 'f') << "what is sent";
+        }
         ~Folder() { std::filesystem::remove_all(path); }
 
         std::string path

@@ -781,7 +781,8 @@ extern "C"
      * [in]  pData     bytes of the values 1 to 9 up to a NUL (not characters), sent after a comma; '-' for none
      * [out] piSw1     first status word of the card
      * [out] piSw2     second status word of the card
-     * [out] sResponse[TANDEKOR_AT_REPLY_SIZE]  the card's answer with its closing quote, no NUL
+     * [out] sResponse[TANDEKOR_AT_REPLY_SIZE]  the card's answer with its closing quote, no NUL; clear it
+     *                                          before, since a reply that ends early writes nothing
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_AT_CRSM(ResourceContext hResourceContext, uint8_t iCommand,
                                                         int32_t iFileId, int32_t iP1, int32_t iP2, int32_t iP3,
@@ -822,8 +823,8 @@ extern "C"
      *
      * [in]  iIndex      place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")
      * [in]  iMaxLength  size of sData
-     * [out] piLength    length as the reply states it; 0 for a reply without a comma
-     * [out] piStat      state as a character, '0' to '3'; '5' for a reply without a comma
+     * [out] piLength    length as the reply states it, modulo 65536; 0 for a reply without a comma
+     * [out] piStat      the character before the comma, a state '0' to '3'; '5' for a reply without a comma
      * [out] sData[iMaxLength]  at least one byte. The text from the fifth character after the first comma on (for a
      *                   length of two digits it begins with the line end). At most the smaller of iMaxLength and
      *                   *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of

@@ -412,7 +412,7 @@ extern "C"
      *
      * [in]  iChannel      channel, in the phone's unit
      * [out] piStatusWord  the last word of whatever arrived, also after a missing reply (if nothing did it is unchanged
-     * or 48059); 0 and 3 are success
+     *                     or 48059); 0 and 3 are success
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_FTM_TUNE_FM_RADIO(ResourceContext hResourceContext, uint16_t iChannel,
                                                                   uint16_t* piStatusWord);

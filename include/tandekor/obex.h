@@ -91,8 +91,8 @@ extern "C"
      * [out]    pListing[*piListingSize]  the listing, without a NUL after it. One that is larger than the buffer gives
      *                                    TANDEKOR_OBEX_LISTING_TOO_LARGE, and the buffer may hold its beginning
      * [in,out] piListingSize  size of the buffer; then the length of the listing. If the listing is too large, or the
-     *                         transfer fails after the phone has announced a size, it is that size; without one it
-     * stays
+     *                         transfer fails after the phone has announced a size, it is that size; without one it is
+     *                         unchanged
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_OBEX_ListDir(ResourceContext hResourceContext,
                                                              const char* psPhoneFolder, uint8_t* pListing,
@@ -164,7 +164,7 @@ extern "C"
                                                              uint16_t* piObexError);
 
     /*
-     * The free space of the phone.
+     * The free space of the phone. A reply that does not fit its own length gives TANDEKOR_OBEX_FREE_SPACE_FAILED.
      *
      * [out] piFreeSpace  in the phone's unit; written if the phone reports it
      */

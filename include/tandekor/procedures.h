@@ -757,9 +757,9 @@ extern "C"
      * the host library's byte of the last command. The steps are logged in words of their own; nothing of the key is.
      *
      * [in] pExpectedImei[TANDEKOR_IMEI_SIZE]            08, then 15 digits as half-bytes, the first over an A: 8A 21
-     * ... [in] pExpectedBtAddress[TANDEKOR_BT_ADDRESS_SIZE] last byte of the address first [in]
-     * pExpectedSerial[TANDEKOR_SERIAL_NUMBER_SIZE] as the phone stores it [in] pPublicKey[TANDEKOR_PUBLIC_KEY_SIZE] the
-     * key that is written
+     * [in] pExpectedBtAddress[TANDEKOR_BT_ADDRESS_SIZE] last byte of the address first
+     * [in] pExpectedSerial[TANDEKOR_SERIAL_NUMBER_SIZE] as the phone stores it
+     * [in] pPublicKey[TANDEKOR_PUBLIC_KEY_SIZE]         the key that is written
      */
     TANDEKOR_API uint8_t TANDEKOR_CALL TANDEKOR_DIAG_FREEZE_PHONE(ResourceContext hResourceContext,
                                                                   const uint8_t* pExpectedImei,

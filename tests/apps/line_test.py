@@ -73,6 +73,12 @@ class LineTest(unittest.TestCase):
                         "registration.state denied [home|roaming] FAIL", "sim-card.card no card [present] FAIL",
                         "activity.state asleep [ready] FAIL", "hanging-key.key 42 [0..0] FAIL", "adc.average 820 [700..900] PASS"):
             self.assertIn(measure, output)
+        with open(glob.glob(self.path("records/*.xml"))[0]) as file:
+            self.assertIn('<failure message="battery.charge 0 % [50 to 100 %] FAIL"', file.read())
+        # The second request is answered with nothing, which the status of the first must not pass for good.
+        phone = self.path("pin.phone", "reply QLIB_SendSync 1 - 01 00\nreply QLIB_SendSync 1 0 00\n")
+        self.assertIn("GPIO_GET_IN(iGPIONum = 0, iValue = 0, iStatus = 1) - Wrong status = 1",
+                      self.run_line(1, "--phone", phone, "pin"))
         self.assertIn("bad.phone:1", self.run_line(2, "--phone", self.path("bad.phone", "set batery 0\n")))
 
     def test_limits_decide(self):

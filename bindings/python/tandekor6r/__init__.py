@@ -61,6 +61,7 @@ class Function:
         self._inputs = [a for a in self._arguments if a.direction != "out"]
         self._outputs = [a for a in self._arguments if a.direction != "in"]
         self._entry = entry
+        self._kept = []
         entry.restype = None if result == "void" else _TYPES[result]
         entry.argtypes = [ctypes.c_void_p if a.pointer else _TYPES[a.ctype] for a in self._arguments]
         self._values = collections.namedtuple(name, ["result"] + [a.name for a in self._outputs])
@@ -70,6 +71,8 @@ class Function:
     def __call__(self, *args, **kwargs):
         given = self.__signature__.bind(*args, **kwargs).arguments
         storage = {}
+        # What the library may go on using lives until the next call is done.
+        previous, self._kept = self._kept, []  # noqa: F841
         # Buffers last: their size may be the value of another argument.
         for argument in sorted(self._arguments, key=lambda a: a.size is not None):
             storage[argument.name] = self._stored(argument, given.get(argument.name), storage)
@@ -114,10 +117,11 @@ class Function:
 
     def _scalar(self, argument, value):
         if argument.ctype == "TandekorCallback":
-            return value if isinstance(value, TandekorCallback) else TandekorCallback(value or 0)
+            self._kept.append(value if isinstance(value, TandekorCallback) else TandekorCallback(value or 0))
+            return self._kept[-1]
         if argument.ctype == "TandekorUploadArgument" and isinstance(value, (str, bytes)):
-            self._text = ctypes.create_string_buffer(self._encoded(value))  # lives until the next call
-            return ctypes.addressof(self._text)
+            self._kept.append(ctypes.create_string_buffer(self._encoded(value)))
+            return ctypes.addressof(self._kept[-1])
         if not isinstance(value, int):
             raise TypeError(f"{self.__name__}: {argument.name} is a number")
         size = 8 * ctypes.sizeof(_TYPES[argument.ctype])

@@ -953,7 +953,7 @@ FUNCTIONS = {
             ('sOper', 'char', True, False, 'out', False, 16, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Operator (+COPS).\n\nhResourceContext [in]  handle of the connection\npiMode [out]  character less 0x30: 0 automatic, 1 manual, 2 deregistered, 4 manual and then automatic\npiFormat [out]  character less 0x30: 0 long name, 1 short name, 2 number\nsOper [out]  the name with a NUL; a longer one is cut\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Operator (+COPS). A phone without one answers the mode alone: *piFormat is then no small number, and sOper is not\na name (it is "OK").\n\nhResourceContext [in]  handle of the connection\npiMode [out]  character less 0x30: 0 automatic, 1 manual, 2 deregistered, 4 manual and then automatic\npiFormat [out]  character less 0x30: 0 long name, 1 short name, 2 number\nsOper [out]  the name with a NUL; a longer one is cut\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Set_COPS': (
         'uint8_t',
@@ -1125,7 +1125,7 @@ FUNCTIONS = {
             ('sNewPin', 'char', True, True, 'in', False, None, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Enters a code (+CPIN).\n\nhResourceContext [in]  handle of the connection\nsPin [in]  text of digits\nsNewPin [in]  new code, of which exactly four characters are sent; may be left out\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Enters a code (+CPIN).\n\nhResourceContext [in]  handle of the connection\nsPin [in]  text of digits\nsNewPin [in]  new code, of which the first four characters are sent; may be left out\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Set_CCFC': (
         'uint8_t',
@@ -1245,7 +1245,7 @@ FUNCTIONS = {
             ('sResponse', 'char', True, False, 'out', False, 4096, None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        "Restricted SIM access (+CRSM). The reply is looked through from place 16 on, which lies inside an echo: switch\nthe echo off for it. Each argument from iFileId on may be left out, and with it those after it; iP1 to iP3 go\ntogether.\n\nhResourceContext [in]  handle of the connection\niCommand [in]  176 read binary, 178 read record, 192 get response ...; sent as three digits\niFileId [in]  file identifier, sent as a whole number\niP1 [in]  one digit, the command's first parameter\niP2 [in]  one digit, the second\niP3 [in]  one digit, the third\npData [in]  bytes of the values 1 to 9 up to a NUL (not characters), sent after a comma; '-' for none\npiSw1 [out]  first status word of the card\npiSw2 [out]  second status word of the card\nsResponse [out]  the card's answer with its closing quote, no NUL\npStatus [out]  how the reply ended (TandekorAtStatus)\n",
+        "Restricted SIM access (+CRSM). The reply is looked through from place 16 on, which lies inside an echo: switch\nthe echo off for it. Each argument from iFileId on may be left out, and with it those after it; iP1 to iP3 go\ntogether.\n\nhResourceContext [in]  handle of the connection\niCommand [in]  176 read binary, 178 read record, 192 get response ...; sent as three digits\niFileId [in]  file identifier, sent as a whole number\niP1 [in]  one digit, the command's first parameter\niP2 [in]  one digit, the second\niP3 [in]  one digit, the third\npData [in]  bytes of the values 1 to 9 up to a NUL (not characters), sent after a comma; '-' for none\npiSw1 [out]  first status word of the card\npiSw2 [out]  second status word of the card\nsResponse [out]  the card's answer with its closing quote, no NUL; clear it before, since a reply that ends early writes nothing\npStatus [out]  how the reply ended (TandekorAtStatus)\n",
     ),
     'TANDEKOR_AT_CMGL': (
         'uint8_t',
@@ -1288,7 +1288,7 @@ FUNCTIONS = {
             ('sData', 'char', True, False, 'out', False, 'iMaxLength', None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nchecked only if it ends in K or k, also after a failed exchange; else nothing is written.\n\nis 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it; 0 for a reply without a comma\npiStat [out]  state as a character, \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nread only if it ends in K or k, also after a failed exchange; else only *pStatus is written, and that only after\nan exchange that worked.\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it, modulo 65536; 0 for a reply without a comma\npiStat [out]  the character before the comma, a state \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_Set_SMGR': (
         'uint8_t',
@@ -1301,7 +1301,7 @@ FUNCTIONS = {
             ('sData', 'char', True, False, 'out', False, 'iMaxLength', None),
             ('pStatus', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nchecked only if it ends in K or k, also after a failed exchange; else nothing is written.\n\nis 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it; 0 for a reply without a comma\npiStat [out]  state as a character, \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
+        'Read a message (+CMGR, and ^SMGR of the phone maker); they set nothing, in spite of their names. The reply is\nread only if it ends in K or k, also after a failed exchange; else only *pStatus is written, and that only after\nan exchange that worked.\n\nhResourceContext [in]  handle of the connection\niIndex [in]  place in the store, 0 to 100; above 100 the command goes out without a number ("AT+CMGR=")\niMaxLength [in]  size of sData\npiLength [out]  length as the reply states it, modulo 65536; 0 for a reply without a comma\npiStat [out]  the character before the comma, a state \'0\' to \'3\'; \'5\' for a reply without a comma\nsData [out]  at least one byte. The text from the fifth character after the first comma on (for a length of two digits it begins with the line end). At most the smaller of iMaxLength and *piLength bytes are written, NUL included, fewer if the reply ends earlier. If one of the two is 0, nothing is written and there is no NUL; a reply without a comma gives an empty text\npStatus [out]  how the reply ended (TandekorAtStatus)\n',
     ),
     'TANDEKOR_AT_CMSS': (
         'uint8_t',
@@ -1330,7 +1330,7 @@ FUNCTIONS = {
             ('piListingSize', 'uint32_t', True, False, 'in,out', False, None, None),
             ('piObexError', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        'Fetches the listing of a folder, an XML text (x-obex/folder-listing).\n\nstays\n\nhResourceContext [in]  handle of the connection\npsPhoneFolder [in]  folder on the phone\npListing [out]  the listing, without a NUL after it. One that is larger than the buffer gives TANDEKOR_OBEX_LISTING_TOO_LARGE, and the buffer may hold its beginning\npiListingSize [in,out]  size of the buffer; then the length of the listing. If the listing is too large, or the transfer fails after the phone has announced a size, it is that size; without one it\npiObexError [out]  a sum of the bits of TandekorObexError, 0 if all went well\n',
+        'Fetches the listing of a folder, an XML text (x-obex/folder-listing).\n\nhResourceContext [in]  handle of the connection\npsPhoneFolder [in]  folder on the phone\npListing [out]  the listing, without a NUL after it. One that is larger than the buffer gives TANDEKOR_OBEX_LISTING_TOO_LARGE, and the buffer may hold its beginning\npiListingSize [in,out]  size of the buffer; then the length of the listing. If the listing is too large, or the transfer fails after the phone has announced a size, it is that size; without one it is unchanged\npiObexError [out]  a sum of the bits of TandekorObexError, 0 if all went well\n',
     ),
     'TANDEKOR_OBEX_GetFile': (
         'uint8_t',
@@ -1415,7 +1415,7 @@ FUNCTIONS = {
             ('piFreeSpace', 'uint32_t', True, False, 'out', False, None, None),
             ('piObexError', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        "The free space of the phone.\n\nhResourceContext [in]  handle of the connection\npiFreeSpace [out]  in the phone's unit; written if the phone reports it\npiObexError [out]  a sum of the bits of TandekorObexError, 0 if all went well\n",
+        "The free space of the phone. A reply that does not fit its own length gives TANDEKOR_OBEX_FREE_SPACE_FAILED.\n\nhResourceContext [in]  handle of the connection\npiFreeSpace [out]  in the phone's unit; written if the phone reports it\npiObexError [out]  a sum of the bits of TandekorObexError, 0 if all went well\n",
     ),
     'TANDEKOR_FTM_GET_HARDWARE_VERSION': (
         'uint8_t',
@@ -1563,9 +1563,9 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('iGPIONum', 'uint8_t', False, False, 'in', False, None, None),
             ('iValue', 'uint8_t', True, False, 'out', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        'Read the output level, the input level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [out]  0 or 1\niStatus [out]  0 for success\n',
+        'Read the output level, the input level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [out]  0 or 1\niStatus [in,out]  0 for success\n',
     ),
     'TANDEKOR_GPIO_GET_IN': (
         'uint8_t',
@@ -1573,9 +1573,9 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('iGPIONum', 'uint8_t', False, False, 'in', False, None, None),
             ('iValue', 'uint8_t', True, False, 'out', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        'Read the output level, the input level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [out]  0 or 1\niStatus [out]  0 for success\n',
+        'Read the output level, the input level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [out]  0 or 1\niStatus [in,out]  0 for success\n',
     ),
     'TANDEKOR_GPIO_GET_OE': (
         'uint8_t',
@@ -1583,9 +1583,9 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('iGPIONum', 'uint8_t', False, False, 'in', False, None, None),
             ('iValue', 'uint8_t', True, False, 'out', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        'Read the output level, the input level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [out]  0 or 1\niStatus [out]  0 for success\n',
+        'Read the output level, the input level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [out]  0 or 1\niStatus [in,out]  0 for success\n',
     ),
     'TANDEKOR_GPIO_SET_OUT': (
         'uint8_t',
@@ -1593,9 +1593,9 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('iGPIONum', 'uint8_t', False, False, 'in', False, None, None),
             ('iValue', 'uint8_t', False, False, 'in', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        'Set the output level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [in]  0 or 1\niStatus [out]  0 for success\n',
+        'Set the output level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [in]  0 or 1\niStatus [in,out]  0 for success\n',
     ),
     'TANDEKOR_GPIO_SET_OE': (
         'uint8_t',
@@ -1603,9 +1603,9 @@ FUNCTIONS = {
             ('hResourceContext', 'ResourceContext', False, False, 'in', False, None, None),
             ('iGPIONum', 'uint8_t', False, False, 'in', False, None, None),
             ('iValue', 'uint8_t', False, False, 'in', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        'Set the output level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [in]  0 or 1\niStatus [out]  0 for success\n',
+        'Set the output level and the output enable of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niValue [in]  0 or 1\niStatus [in,out]  0 for success\n',
     ),
     'TANDEKOR_GPIO_GET_CFG': (
         'uint8_t',
@@ -1616,9 +1616,9 @@ FUNCTIONS = {
             ('iPullUD', 'uint8_t', True, False, 'out', False, None, None),
             ('iPullEn', 'uint8_t', True, False, 'out', False, None, None),
             ('iDir', 'uint8_t', True, False, 'out', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        "Reads the configuration of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niSelect [out]  function, the phone's number\niPullUD [out]  pull up (1) or down (0)\niPullEn [out]  whether the pull is enabled\niDir [out]  direction, the phone's number\niStatus [out]  0 for success\n",
+        "Reads the configuration of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niSelect [out]  function, the phone's number\niPullUD [out]  pull up or down, the phone's number\niPullEn [out]  whether the pull is enabled\niDir [out]  direction, the phone's number\niStatus [in,out]  0 for success\n",
     ),
     'TANDEKOR_GPIO_SET_CFG': (
         'uint8_t',
@@ -1629,9 +1629,9 @@ FUNCTIONS = {
             ('iPullUD', 'uint8_t', False, False, 'in', False, None, None),
             ('iPullEn', 'uint8_t', False, False, 'in', False, None, None),
             ('iDir', 'uint8_t', False, False, 'in', False, None, None),
-            ('iStatus', 'uint8_t', True, False, 'out', False, None, None),
+            ('iStatus', 'uint8_t', True, False, 'in,out', False, None, None),
         ),
-        "Sets the configuration of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niSelect [in]  function, the phone's number\niPullUD [in]  pull up (1) or down (0)\niPullEn [in]  whether the pull is enabled\niDir [in]  direction, the phone's number\niStatus [out]  0 for success\n",
+        "Sets the configuration of a pin.\n\nhResourceContext [in]  handle of the connection\niGPIONum [in]  number of the pin\niSelect [in]  function, the phone's number\niPullUD [in]  pull up or down, the phone's number\niPullEn [in]  whether the pull is enabled\niDir [in]  direction, the phone's number\niStatus [in,out]  0 for success\n",
     ),
     'TANDEKOR_FTM_I2C_DATA_ACCESS': (
         'uint8_t',
@@ -1658,7 +1658,7 @@ FUNCTIONS = {
             ('iI2C_DataLen', 'uint8_t', False, False, 'in', False, None, None),
             ('piI2C_Data', 'uint8_t', True, False, 'in,out', True, 'iI2C_DataLen', None),
         ),
-        "Read or write a register of an I2C device. A read whose reply is shorter than its data and ten bytes fails.\nTANDEKOR_FTM_I2C_DATA_ACCESS2 also passes a selector on, which the first sends as 0.\n\nhResourceContext [in]  handle of the connection\niI2C_AccessType [in]  TandekorAccess; other access types send no data and expect none\niI2C_Selector [in]  selects the bus, the phone's number\niI2C_SlaveAddr [in]  address of the device, 7 bits\niI2C_RegAddrLen [in]  bytes of the register's address, 0 for none\niI2C_RegAddr [in]  address of the register\niI2C_DataLen [in]  bytes to read or write\npiI2C_Data [in,out, or null]  written by a read, sent by a write. Its first byte is shown before the call, so it holds at least one byte, or is null when there are no data\n",
+        "Read or write a register of an I2C device. A read whose reply is shorter than its data and ten bytes fails.\nTANDEKOR_FTM_I2C_DATA_ACCESS2 also passes a selector on, which the first sends as 0.\n\nhResourceContext [in]  handle of the connection\niI2C_AccessType [in]  TandekorAccess; other access types send no data and expect none\niI2C_Selector [in]  sent as it is; the phone maker's\niI2C_SlaveAddr [in]  address of the device, 7 bits\niI2C_RegAddrLen [in]  bytes of the register's address, 0 for none\niI2C_RegAddr [in]  address of the register\niI2C_DataLen [in]  bytes to read or write\npiI2C_Data [in,out, or null]  written by a read, sent by a write. Its first byte is shown before the call, so it holds at least one byte, or is null when there are no data\n",
     ),
     'TANDEKOR_FTM_MGET_ADC_VAL': (
         'uint8_t',
@@ -1775,7 +1775,7 @@ FUNCTIONS = {
             ('iGSM_DACvsPower', 'uint16_t', True, True, 'in', False, 174, None),
             ('iDelay_ms', 'uint16_t', False, False, 'in', False, None, None),
         ),
-        "Writes the GSM transmit linearizer of a band.\n\nhResourceContext [in]  handle of the connection\niGSM_Band [in]  the phone's number of the band\niGSM_DACvsPower [in]  DAC values, from the lowest power on\niDelay_ms [in]  how long to wait for the reply, in milliseconds\n",
+        "Writes the GSM transmit linearizer of a band.\n\nhResourceContext [in]  handle of the connection\niGSM_Band [in]  the phone's number of the band\niGSM_DACvsPower [in]  DAC values, sent in this order\niDelay_ms [in]  how long to wait for the reply, in milliseconds\n",
     ),
     'TANDEKOR_FTM_WRITE_WCDMA_RF_CAL': (
         'uint8_t',
@@ -1814,7 +1814,7 @@ FUNCTIONS = {
             ('iChannel', 'uint16_t', False, False, 'in', False, None, None),
             ('piStatusWord', 'uint16_t', True, False, 'out', False, None, None),
         ),
-        "Tunes the radio.\n\nhResourceContext [in]  handle of the connection\niChannel [in]  channel, in the phone's unit\npiStatusWord [out]  the last word of whatever arrived, also after a missing reply; 0 and 3 are success\n",
+        "Tunes the radio.\n\nhResourceContext [in]  handle of the connection\niChannel [in]  channel, in the phone's unit\npiStatusWord [out]  the last word of whatever arrived, also after a missing reply (if nothing did it is unchanged or 48059); 0 and 3 are success\n",
     ),
     'TANDEKOR_FTM_RM_RADIO_RDS_TEST': (
         'uint8_t',
@@ -1833,7 +1833,7 @@ FUNCTIONS = {
             ('piFmScanCount', 'uint8_t', True, False, 'out', False, None, None),
             ('piFmScanList', 'uint16_t', True, False, 'out', False, 48, None),
         ),
-        "Scans for stations, up to 20 seconds. All values but the list are written whatever the status is; a reply shorter\nthan 111 bytes reads as zeros.\n\nhResourceContext [in]  handle of the connection\npiFmStatus [out]  0 for success\npiFmScanValid [out]  1 if the list is written\npiFmScanCount [out]  entries of the list that are written, at most 48\npiFmScanList [out]  frequencies, in the phone's unit\n",
+        "Scans for stations, up to 20 seconds. All values are written whatever the status is, the list only if it is\nvalid; a reply shorter than 111 bytes reads as zeros.\n\nhResourceContext [in]  handle of the connection\npiFmStatus [out]  0 for success\npiFmScanValid [out]  1 if the list is written\npiFmScanCount [out]  entries of the list, at most 48\npiFmScanList [out]  frequencies, in the phone's unit\n",
     ),
     'TANDEKOR_FTM_FM_RADIO_GET_STATION_INFO': (
         'uint8_t',
@@ -1913,7 +1913,7 @@ FUNCTIONS = {
             ('rowNumber', 'uint16_t', False, False, 'in', False, None, None),
             ('backLightOn', 'uint8_t', False, False, 'in', False, None, None),
         ),
-        'Switches the light of a keypad row, after asking for the phone model. On model 3 the rows 5 and 7 go to\nTANDEKOR_FTM_SetKeyPadBackLightGPIO, and another row is also remarked on standard output.\n\nhResourceContext [in]  handle of the connection\nrowNumber [in]  1 to 7\nbackLightOn [in]  1 on, 0 off; another value is refused\n',
+        'Switches the light of a keypad row, after asking for the phone model. On model 3 the rows 5 and 7 go to\nTANDEKOR_FTM_SetKeyPadBackLightGPIO, and another row is also remarked on standard output.\n\nhResourceContext [in]  handle of the connection\nrowNumber [in]  1 to 7\nbackLightOn [in]  1 on, 0 off; another value is refused, unless it is passed on\n',
     ),
     'TANDEKOR_FTM_GetSliderState': (
         'uint8_t',
@@ -2573,7 +2573,7 @@ FUNCTIONS = {
             ('pExpectedSerial', 'uint8_t', True, True, 'in', False, 16, None),
             ('pPublicKey', 'uint8_t', True, True, 'in', False, 260, None),
         ),
-        "Freezes the phone. THIS CANNOT BE UNDONE. Compares IMEI, Bluetooth address and serial number in the form in which\nthe phone stores them; only if all are equal does it write the key, read it back, compare it and lock the device.\nEach comparison stops after the caller's first zero byte; later bytes are NOT compared. On success the result is\nthe host library's byte of the last command. The steps are logged in words of their own; nothing of the key is.\n\nhResourceContext [in]  handle of the connection\npExpectedImei [in]  08, then 15 digits as half-bytes, the first over an A: 8A 21 43 ...\npExpectedBtAddress [in]  last byte of the address first\npExpectedSerial [in]  as the phone stores it\npPublicKey [in]  the key that is written\n",
+        "Freezes the phone. THIS CANNOT BE UNDONE. Compares IMEI, Bluetooth address and serial number in the form in which\nthe phone stores them; only if all are equal does it write the key, read it back, compare it and lock the device.\nEach comparison stops after the caller's first zero byte; later bytes are NOT compared. On success the result is\nthe host library's byte of the last command. The steps are logged in words of their own; nothing of the key is.\n\nhResourceContext [in]  handle of the connection\npExpectedImei [in]  08, then 15 digits as half-bytes, the first over an A: 8A 21\npExpectedBtAddress [in]  last byte of the address first\npExpectedSerial [in]  as the phone stores it\npPublicKey [in]  the key that is written\n",
     ),
     'TANDEKOR_FlashTest': (
         'uint8_t',
