@@ -17,7 +17,8 @@ namespace
 
 constexpr size_t imeiDigits = 15;
 
-// Digits of which every second one counts twice; the sum of all is a multiple of ten.
+// Digits of which every second one counts twice; the sum of all is a multiple of ten. An erased item is no IMEI,
+// although the sum of zeros is one.
 bool IsImei(const std::string& text)
 {
     int sum = 0;
@@ -28,7 +29,7 @@ bool IsImei(const std::string& text)
         const int digit = (text[i] - '0') * (i % 2 == 0 ? 1 : 2);
         sum += digit / 10 + digit % 10;
     }
-    return text.size() == imeiDigits && sum % 10 == 0;
+    return text.size() == imeiDigits && sum > 0 && sum % 10 == 0;
 }
 
 Outcome ReadImei(Context& context)

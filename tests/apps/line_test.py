@@ -79,6 +79,8 @@ class LineTest(unittest.TestCase):
         phone = self.path("pin.phone", "reply QLIB_SendSync 1 - 01 00\nreply QLIB_SendSync 1 0 00\n")
         self.assertIn("GPIO_GET_IN(iGPIONum = 0, iValue = 0, iStatus = 1) - Wrong status = 1",
                       self.run_line(1, "--phone", phone, "pin"))
+        phone = self.path("erased.phone", f"nv 550 08 0A {'00 ' * 7}\n")
+        self.assertIn("not an IMEI", self.run_line(1, "--phone", phone, "imei"))
         self.assertIn("bad.phone:1", self.run_line(2, "--phone", self.path("bad.phone", "set batery 0\n")))
 
     def test_limits_decide(self):
