@@ -169,7 +169,7 @@ void AddRadioOptions(CLI::App& app, RadioValues& radio)
     const auto add = [&app](const char* name, auto& value, const char* description, uint32_t most)
     {
         CLI::Option* option = app.add_option(name, value, description)->type_name("N")->group("Radio");
-        option->check(Between(0, most))->default_str(std::to_string(value));  // a uint8_t is a number
+        option->check(Between(0, most))->default_str(std::to_string(value));  // a uint8_t would be shown as a character
     };
     add("--gsm-mode", radio.modeGsm, "GSM mode, as the host library counts", UINT16_MAX);
     add("--gsm-band", radio.bandGsm, "GSM band", UINT8_MAX);

@@ -34,7 +34,7 @@ std::string Shown(const TestRecord& test, const Measure& measure)
            + VerdictShown(measure.verdict);
 }
 
-// What the test says itself, else the measures that its limits refused.
+// What the test says itself, and the measures that its limits refused.
 std::string Reason(const TestRecord& test)
 {
     std::string reason = test.text;
